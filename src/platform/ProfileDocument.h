@@ -1,0 +1,67 @@
+#pragma once
+// A profile file (zorel.ini, Brimo.ini) held in memory as its bytes, with the
+// reading and writing contract of the Win32 profile functions:
+//  - section and key names match without regard to case, after the blanks
+//    around them are dropped; the first matching section, and in it the
+//    first matching key, wins; keys before any section are never found;
+//  - a value loses the blanks around it and one pair of surrounding quotes,
+//    and is cut by the caller's buffer (255 characters give at most 254);
+//  - a write replaces the value of an existing key in its line, or adds the
+//    key behind the last line of its section, or adds the section at the end;
+//    every other byte of the file stays as it was; new lines end in CR LF.
+// Lines end at LF; a CR is a blank like any other, as the platform reads it.
+
+#include <QByteArray>
+#include <QByteArrayView>
+#include <QList>
+#include <QPair>
+#include <vector>
+
+namespace brimo {
+
+class ProfileDocument {
+public:
+    ProfileDocument() = default;
+    explicit ProfileDocument(QByteArray bytes);
+
+    const QByteArray& bytes() const { return bytes_; }
+
+    // GetPrivateProfileStringA with the empty text as default and a buffer of
+    // `bufferSize` characters: the value, or the empty text when the section
+    // or the key is missing.
+    QByteArray getString(QByteArrayView section, QByteArrayView key, int bufferSize = 255) const;
+
+    // WritePrivateProfileStringA for each pair in turn, on the text in memory.
+    // Returns true when the text changed.
+    using KeyValue = QPair<QByteArray, QByteArray>;
+    bool setStrings(QByteArrayView section, const QList<KeyValue>& keyValues);
+    bool setString(QByteArrayView section, QByteArrayView key, QByteArrayView value);
+
+private:
+    struct Section {
+        qsizetype nameBegin = 0, nameEnd = 0; // inside the brackets
+        qsizetype bodyBegin = 0;              // first byte after the header line
+        qsizetype bodyEnd = 0;                // first byte of the next header line, or the end
+        bool headerHasLineEnd = true;
+    };
+    struct Key {
+        qsizetype nameBegin = 0, nameEnd = 0;
+        qsizetype valueBegin = -1, valueEnd = -1; // -1: a line without '='
+    };
+
+    void indexSections() const;
+    const Section* findSection(QByteArrayView name) const;
+    std::vector<Key> keysOf(const Section& section) const;
+
+    QByteArray bytes_;
+    mutable bool indexed_ = false;
+    mutable std::vector<Section> sections_; // named sections, in file order
+};
+
+// True for the characters that the profile functions treat as blanks.
+bool isProfileBlank(unsigned char c);
+
+// Compares two names without regard to case, after dropping surrounding blanks.
+bool profileNamesEqual(QByteArrayView stored, QByteArrayView wanted);
+
+} // namespace brimo

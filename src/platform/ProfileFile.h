@@ -1,0 +1,35 @@
+#pragma once
+// The two profile operations on a file named by a Windows path text.
+
+#include "platform/ProfileDocument.h"
+
+#include <QString>
+
+namespace brimo {
+
+// GetPrivateProfileStringA(section, key, "", buffer, bufferSize, file):
+// the number of characters placed in `buffer`, at most bufferSize - 1.
+// A missing file, section or key gives the empty text.
+int GetPrivateProfileString(const QString& section, const QString& key, QString& buffer,
+                            int bufferSize, const QString& windowsPath);
+
+// WritePrivateProfileStringA(section, key, value, file): replaces or adds the
+// key, creating the file when its folder exists. False when the file cannot be
+// written; `error` then says why.
+bool WritePrivateProfileString(const QString& section, const QString& key, const QString& value,
+                               const QString& windowsPath, QString* error = nullptr);
+
+// Reads a profile file once for many reads; a missing or unreadable file
+// reads as an empty one.
+ProfileDocument LoadProfile(const QString& windowsPath);
+
+// Reads with the contract of GetPrivateProfileStringA from a loaded file.
+QString ReadProfileString(const ProfileDocument& profile, const QString& section, const QString& key,
+                          int bufferSize = 255);
+
+// Applies several writes to one section and saves the file once, all or
+// nothing. False when the file cannot be written; `error` then says why.
+bool WriteProfileSection(const QString& windowsPath, const QString& section,
+                         const QList<QPair<QString, QString>>& keyValues, QString* error = nullptr);
+
+} // namespace brimo

@@ -1,0 +1,31 @@
+#pragma once
+// Where the Windows folder lies on Linux, and how a Windows path text is
+// mapped to a native path. The program builds its paths as texts with
+// backslashes; only when a file is opened or tested is the text mapped.
+
+#include <QString>
+
+namespace brimo {
+
+// $WINEPREFIX, or $HOME/.wine when WINEPREFIX is unset or empty. This is the
+// only place where the program reads its environment.
+QString WinePrefix();
+
+// The Windows folder as a Windows path text, without a trailing backslash
+// ("C:\windows"), the way the platform reports it.
+QString GetWindowsFolder();
+
+// Maps a Windows path text to a native path:
+//   "X:..."  -> $WINEPREFIX/dosdevices/x:...
+//   "\..."   -> the file system root
+//   "/..."   -> already native, used as it is
+// Every backslash becomes '/'; nothing else is normalised. A component that
+// does not exist with that spelling is looked up without regard to case in
+// its folder, as Windows finds names; a component that does not exist at all
+// keeps the program's spelling (so a file being created takes that name).
+QString ToNativePath(const QString& windowsPath);
+
+// The same mapping without looking at the file system: the text only.
+QString MapWindowsPathText(const QString& windowsPath);
+
+} // namespace brimo

@@ -1,0 +1,44 @@
+#pragma once
+// The 51 values of section Brimo_Gene, each called by its key. A value read
+// from the file is text, exactly as read; a default that applied keeps its
+// number (16-bit integer or double) until it is shown as text.
+
+#include "app/InstallInfo.h"
+#include "store/GeneralVariableCatalogue.h"
+
+#include <QString>
+#include <array>
+#include <variant>
+
+namespace brimo {
+
+using VariableValue = std::variant<QString, qint16, double>;
+
+class GeneralVariables {
+public:
+    GeneralVariables();
+
+    // The value of a key as the catalogue spells it (case-insensitive).
+    const VariableValue& value(QStringView key) const;
+    // The text form of the value; numbers are rendered now, under the
+    // regional settings in force.
+    QString text(QStringView key) const;
+    void setText(QStringView key, const QString& text);
+    void setValue(QStringView key, VariableValue value);
+
+    // Fills every value with its default.
+    void resetToDefaults();
+
+private:
+    static std::size_t indexOf(QStringView key);
+    std::array<VariableValue, kGeneralVariableCatalogue.size()> values_;
+};
+
+// The default of a catalogue row, held as the catalogue says.
+VariableValue DefaultValue(const GeneralVariableSpec& spec);
+
+// Reads the 51 keys of section Brimo_Gene from BrimoIniPath(info), in the
+// catalogue's order; a missing or empty value takes its default.
+void LoadGeneralVariables(const InstallInfo& info, GeneralVariables& variables);
+
+} // namespace brimo
