@@ -1,0 +1,24 @@
+#pragma once
+// The base of every form: a modeless dialog without owner, built at its
+// design state by its constructor, filled by Form_Load when it is shown.
+
+#include <QDialog>
+
+namespace brimo {
+
+class MainModule;
+
+class BrimoForm : public QDialog {
+    Q_OBJECT
+public:
+    explicit BrimoForm(MainModule& module);
+    // The load step, run each time the window is built and shown.
+    virtual void Form_Load() {}
+
+protected:
+    // A fixed single border without minimise and maximise buttons.
+    void useFixedBorder();
+    MainModule& module_;
+};
+
+} // namespace brimo

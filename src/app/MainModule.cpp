@@ -1,0 +1,126 @@
+#include "app/MainModule.h"
+
+#include "app/CommandWord.h"
+#include "dialogs/about/CAboutForm.h"
+#include "dialogs/drawing/CVarGlobale.h"
+#include "dialogs/general/CGeneralForm.h"
+#include "dialogs/slope/CParamRechTalus.h"
+#include "app/CChoixForm.h"
+#include "platform/WindowServices.h"
+
+#include <QApplication>
+
+#include <cstdio>
+#include <unistd.h>
+
+namespace brimo {
+
+namespace {
+
+// The question of a failed legend load, as a real message box.
+class MessageBoxLegendQuestion : public LegendFailureQuestion {
+public:
+    explicit MessageBoxLegendQuestion(MainModule& module) : module_(module) {}
+    bool ask(const QString& text, const QString& title) override { return AskYesNoCritical(text, title); }
+    void endProgram() override { module_.End(0); }
+
+private:
+    MainModule& module_;
+};
+
+} // namespace
+
+struct MainModule::Slots {
+    QPointer<CChoixForm> choix;
+    QPointer<CGeneralForm> general;
+    QPointer<CParamRechTalus> slope;
+    QPointer<CAboutForm> about;
+    QPointer<CVarGlobale> drawing;
+};
+
+template <> QPointer<CChoixForm>& MainModule::slot<CChoixForm>() const { return slots_->choix; }
+template <> QPointer<CGeneralForm>& MainModule::slot<CGeneralForm>() const { return slots_->general; }
+template <> QPointer<CParamRechTalus>& MainModule::slot<CParamRechTalus>() const { return slots_->slope; }
+template <> QPointer<CAboutForm>& MainModule::slot<CAboutForm>() const { return slots_->about; }
+template <> QPointer<CVarGlobale>& MainModule::slot<CVarGlobale>() const { return slots_->drawing; }
+
+MainModule::MainModule()
+    : legendQuestion_(std::make_unique<MessageBoxLegendQuestion>(*this)), slots_(std::make_unique<Slots>()) {}
+
+MainModule::~MainModule() {
+    // Windows still open belong to the module's life.
+    delete slots_->choix;
+    delete slots_->general;
+    delete slots_->slope;
+    delete slots_->about;
+    delete slots_->drawing;
+}
+
+void MainModule::setLegendQuestion(std::unique_ptr<LegendFailureQuestion> question) {
+    legendQuestion_ = std::move(question);
+}
+
+int MainModule::LoadLegends() {
+    return legendTable.LoadLegends(LegendFolder(installInfo), generalVariables.text(u"x_lang"), *legendQuestion_);
+}
+
+template <class Form> Form* MainModule::Window() const {
+    Form* form = slot<Form>().data();
+    return form && form->isVisible() ? form : nullptr;
+}
+
+template <class Form> Form* MainModule::Show() {
+    QPointer<Form>& form = slot<Form>();
+    if (form && form->isVisible()) {
+        form->raise();
+        form->activateWindow();
+        return form.data();
+    }
+    delete form.data();
+    form = new Form(*this);
+    form->Form_Load();
+    form->show();
+    return form.data();
+}
+
+void MainModule::End(int status) {
+    if (endProcess) {
+        endProcess(status);
+        return;
+    }
+    std::fflush(nullptr);
+    ::_exit(status);
+}
+
+#define BRIMO_FORM_SLOT(Form)                  \
+    template Form* MainModule::Show<Form>();   \
+    template Form* MainModule::Window<Form>() const;
+BRIMO_FORM_SLOT(CChoixForm)
+BRIMO_FORM_SLOT(CGeneralForm)
+BRIMO_FORM_SLOT(CParamRechTalus)
+BRIMO_FORM_SLOT(CAboutForm)
+BRIMO_FORM_SLOT(CVarGlobale)
+#undef BRIMO_FORM_SLOT
+
+int Main(int argc, char* argv[]) {
+    // Qt is given the program's name alone: the user's words are ours.
+    const QString commandLine = CommandLineOf(argc, argv);
+    int qtArgc = 1;
+    char* qtArgv[] = {argv[0], nullptr};
+    QApplication app(qtArgc, qtArgv);
+
+    MainModule module;
+    LoadInstallInfo(module.installInfo);
+    LoadGeneralVariables(module.installInfo, module.generalVariables);
+    module.LoadLegends();
+
+    switch (DialogForCommandLine(commandLine)) {
+    case StartDialog::SlopeSearch: module.Show<CParamRechTalus>(); break;
+    case StartDialog::General: module.Show<CGeneralForm>(); break;
+    case StartDialog::About: module.Show<CAboutForm>(); break;
+    case StartDialog::Chooser: module.Show<CChoixForm>(); break;
+    }
+    return app.exec();
+}
+
+} // namespace brimo

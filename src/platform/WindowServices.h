@@ -1,0 +1,36 @@
+#pragma once
+// What the forms rely on of the window toolkit: twips, centring, the two
+// message boxes, starting a program, testing a file.
+
+#include <QRect>
+#include <QString>
+
+class QWidget;
+
+namespace brimo {
+
+// Twips to pixels at the screen's logical DPI (15 twips a pixel at 96 DPI).
+int TwipsToPixels(double twips);
+QRect TwipsRect(double left, double top, double width, double height);
+QSize TwipsSize(double width, double height);
+// Places a widget by twips inside its parent.
+void PlaceInTwips(QWidget* widget, double left, double top, double width, double height);
+
+// Screen size in twips.
+double ScreenWidthTwips();
+double ScreenHeightTwips();
+
+// Centres the window: Top = screen height / 2 - height / 2, then Left likewise.
+void CentreOnScreen(QWidget* window);
+
+// Message box of flags 4160: information icon, one OK button, modal.
+void ShowInformationBox(const QString& text, const QString& title);
+// Message box of flags 20: critical icon, Yes and No; true for Yes.
+bool AskYesNoCritical(const QString& text, const QString& title);
+
+// Starts a program by its Windows path without waiting for it.
+bool StartProgram(const QString& windowsPath);
+// True when a file exists at the Windows path.
+bool FileExists(const QString& windowsPath);
+
+} // namespace brimo
