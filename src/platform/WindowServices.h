@@ -5,6 +5,8 @@
 #include <QRect>
 #include <QString>
 
+#include <functional>
+
 class QWidget;
 
 namespace brimo {
@@ -22,6 +24,15 @@ double ScreenHeightTwips();
 
 // Centres the window: Top = screen height / 2 - height / 2, then Left likewise.
 void CentreOnScreen(QWidget* window);
+
+// Tests answer the message boxes in place of a person: the answerer gets
+// the text, the title and the flags (4160 or 20) and returns true for Yes.
+struct MessageBoxCall {
+    QString text;
+    QString title;
+    int flags;
+};
+void SetMessageBoxAnswerer(std::function<bool(const MessageBoxCall&)> answerer);
 
 // Message box of flags 4160: information icon, one OK button, modal.
 void ShowInformationBox(const QString& text, const QString& title);
