@@ -26,24 +26,24 @@ void GeneralVariables::resetToDefaults() {
     for (std::size_t i = 0; i < values_.size(); ++i) values_[i] = DefaultValue(kGeneralVariableCatalogue[i]);
 }
 
-std::size_t GeneralVariables::indexOf(QStringView key) {
+std::size_t GeneralVariables::indexOf(QAnyStringView key) {
     for (std::size_t i = 0; i < kGeneralVariableCatalogue.size(); ++i)
-        if (key.compare(QLatin1String(kGeneralVariableCatalogue[i].key), Qt::CaseInsensitive) == 0) return i;
+        if (QAnyStringView::compare(key, QLatin1String(kGeneralVariableCatalogue[i].key), Qt::CaseInsensitive) == 0) return i;
     throw std::out_of_range("no general variable " + key.toString().toStdString());
 }
 
-const VariableValue& GeneralVariables::value(QStringView key) const { return values_[indexOf(key)]; }
+const VariableValue& GeneralVariables::value(QAnyStringView key) const { return values_[indexOf(key)]; }
 
-QString GeneralVariables::text(QStringView key) const {
+QString GeneralVariables::text(QAnyStringView key) const {
     const VariableValue& v = value(key);
     if (const auto* s = std::get_if<QString>(&v)) return *s;
     if (const auto* i = std::get_if<qint16>(&v)) return NumberToText(*i);
     return NumberToText(std::get<double>(v));
 }
 
-void GeneralVariables::setText(QStringView key, const QString& text) { values_[indexOf(key)] = text; }
+void GeneralVariables::setText(QAnyStringView key, const QString& text) { values_[indexOf(key)] = text; }
 
-void GeneralVariables::setValue(QStringView key, VariableValue value) { values_[indexOf(key)] = std::move(value); }
+void GeneralVariables::setValue(QAnyStringView key, VariableValue value) { values_[indexOf(key)] = std::move(value); }
 
 void LoadGeneralVariables(const InstallInfo& info, GeneralVariables& variables) {
     const ProfileDocument ini = LoadProfile(BrimoIniPath(info));

@@ -19,18 +19,18 @@ public:
     GeneralVariables();
 
     // The value of a key as the catalogue spells it (case-insensitive).
-    const VariableValue& value(QStringView key) const;
+    const VariableValue& value(QAnyStringView key) const;
     // The text form of the value; numbers are rendered now, under the
     // regional settings in force.
-    QString text(QStringView key) const;
-    void setText(QStringView key, const QString& text);
-    void setValue(QStringView key, VariableValue value);
+    QString text(QAnyStringView key) const;
+    void setText(QAnyStringView key, const QString& text);
+    void setValue(QAnyStringView key, VariableValue value);
 
     // Fills every value with its default.
     void resetToDefaults();
 
 private:
-    static std::size_t indexOf(QStringView key);
+    static std::size_t indexOf(QAnyStringView key);
     std::array<VariableValue, kGeneralVariableCatalogue.size()> values_;
 };
 
