@@ -60,7 +60,9 @@ bool WriteFilesTogether(const QList<FileToWrite>& files, QString* failedPath, QS
             if (error) *error = save->errorString();
             return false;
         }
-        previous.push_back(QFileInfo::exists(file.nativePath) ? ReadWholeFile(file.nativePath) : std::nullopt);
+        // Only the files moved before another can need their old content back.
+        const bool last = &file == &files.back();
+        previous.push_back(!last && QFileInfo::exists(file.nativePath) ? ReadWholeFile(file.nativePath) : std::nullopt);
         staged.push_back(std::move(save));
     }
     for (std::size_t i = 0; i < staged.size(); ++i) {

@@ -43,29 +43,37 @@ bool profileNamesEqual(QByteArrayView stored, QByteArrayView wanted) {
 
 ProfileDocument::ProfileDocument(QByteArray bytes) : bytes_(std::move(bytes)) {}
 
+// Section headers are found by looking for '[' alone: a file of many MB is
+// scanned at the speed of memchr, and only the lines that hold a '[' after
+// nothing but blanks are looked at more closely.
 void ProfileDocument::indexSections() const {
     if (indexed_) return;
     sections_.clear();
+    const char* data = bytes_.constData();
     const qsizetype size = bytes_.size();
-    qsizetype lineBegin = 0;
-    while (lineBegin < size) {
-        const qsizetype lineEnd = lineEndOf(bytes_, lineBegin);
-        qsizetype b = lineBegin, e = lineEnd;
+    qsizetype pos = 0;
+    while (pos < size) {
+        const void* hit = std::memchr(data + pos, '[', static_cast<size_t>(size - pos));
+        if (!hit) break;
+        const qsizetype bracket = static_cast<const char*>(hit) - data;
+        qsizetype lineBegin = bracket;
+        while (lineBegin > 0 && data[lineBegin - 1] != '\n' && isProfileBlank(static_cast<unsigned char>(data[lineBegin - 1])))
+            --lineBegin;
+        const qsizetype lineEnd = lineEndOf(bytes_, bracket);
+        pos = lineEnd + 1;
+        if (lineBegin > 0 && data[lineBegin - 1] != '\n') continue; // a '[' inside a line
+        qsizetype b = bracket, e = lineEnd;
         trimRange(bytes_, b, e);
-        if (b < e && bytes_[b] == '[') {
-            const char* close = static_cast<const char*>(memrchr(bytes_.constData() + b, ']', static_cast<size_t>(e - b)));
-            if (close) {
-                if (!sections_.empty()) sections_.back().bodyEnd = lineBegin;
-                Section s;
-                s.nameBegin = b + 1;
-                s.nameEnd = close - bytes_.constData();
-                s.bodyBegin = lineEnd < size ? lineEnd + 1 : size;
-                s.headerHasLineEnd = lineEnd < size;
-                s.bodyEnd = size;
-                sections_.push_back(s);
-            }
-        }
-        lineBegin = lineEnd + 1;
+        const char* close = static_cast<const char*>(memrchr(data + b, ']', static_cast<size_t>(e - b)));
+        if (!close) continue;
+        if (!sections_.empty()) sections_.back().bodyEnd = lineBegin;
+        Section s;
+        s.nameBegin = b + 1;
+        s.nameEnd = close - data;
+        s.bodyBegin = lineEnd < size ? lineEnd + 1 : size;
+        s.headerHasLineEnd = lineEnd < size;
+        s.bodyEnd = size;
+        sections_.push_back(s);
     }
     indexed_ = true;
 }
@@ -73,9 +81,15 @@ void ProfileDocument::indexSections() const {
 const ProfileDocument::Section* ProfileDocument::findSection(QByteArrayView name) const {
     indexSections();
     if (trimmed(name).isEmpty()) return nullptr;
+    // A load reads many keys of one section: remember the last one found.
+    if (lastSection_ >= 0 && lastSectionName_ == name) return &sections_[static_cast<size_t>(lastSection_)];
     for (const Section& s : sections_) {
         if (s.nameEnd == s.nameBegin) continue;
-        if (profileNamesEqual(QByteArrayView(bytes_).sliced(s.nameBegin, s.nameEnd - s.nameBegin), name)) return &s;
+        if (profileNamesEqual(QByteArrayView(bytes_).sliced(s.nameBegin, s.nameEnd - s.nameBegin), name)) {
+            lastSection_ = &s - sections_.data();
+            lastSectionName_ = name.toByteArray();
+            return &s;
+        }
     }
     return nullptr;
 }
@@ -111,7 +125,12 @@ QByteArray ProfileDocument::getString(QByteArrayView section, QByteArrayView key
     if (bufferSize <= 0 || trimmed(key).isEmpty()) return {};
     const Section* s = findSection(section);
     if (!s) return {};
-    for (const Key& k : keysOf(*s)) {
+    const qsizetype sectionIndex = s - sections_.data();
+    if (lastKeysOf_ != sectionIndex) {
+        lastKeys_ = keysOf(*s);
+        lastKeysOf_ = sectionIndex;
+    }
+    for (const Key& k : lastKeys_) {
         if (!profileNamesEqual(QByteArrayView(bytes_).sliced(k.nameBegin, k.nameEnd - k.nameBegin), key)) continue;
         if (k.valueBegin < 0) return {};
         QByteArrayView value = QByteArrayView(bytes_).sliced(k.valueBegin, k.valueEnd - k.valueBegin);
@@ -210,6 +229,8 @@ bool ProfileDocument::setStrings(QByteArrayView sectionName, const QList<KeyValu
     out.append(QByteArrayView(bytes_).sliced(spliceEnd));
     bytes_ = std::move(out);
     indexed_ = false;
+    lastSection_ = -1;
+    lastKeysOf_ = -1;
     return true;
 }
 

@@ -56,6 +56,10 @@ private:
     QByteArray bytes_;
     mutable bool indexed_ = false;
     mutable std::vector<Section> sections_; // named sections, in file order
+    mutable qsizetype lastSection_ = -1;
+    mutable QByteArray lastSectionName_;
+    mutable qsizetype lastKeysOf_ = -1;
+    mutable std::vector<Key> lastKeys_;
 };
 
 // True for the characters that the profile functions treat as blanks.
