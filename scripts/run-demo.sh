@@ -14,6 +14,8 @@ scripts/make-demo-prefix.sh "$root/demo"
 export WINEPREFIX=$root/demo
 user=$WINEPREFIX/drive_c/Zorel/Variables/Demo
 
+# Ctrl-C stops the program; the list of files below is still printed.
+trap ':' INT
 status=0
 if [ -z "${DISPLAY:-}" ] && [ -z "${WAYLAND_DISPLAY:-}" ]; then
   echo "No display: running Brimo2010 $* under Xvfb (xvfb-run -a); nothing is shown, stop it with Ctrl-C."
