@@ -1,0 +1,65 @@
+# What `cmake --install` puts where, and the Debian package made by CPack.
+#
+#   bin/Brimo2010
+#   share/brimo/legends/ZorelMsg_*.txt       copied into a prefix by the demo script
+#   share/brimo/make-demo-prefix.sh          makes a demo installation in a Wine prefix
+#   share/applications/brimo.desktop
+#   share/icons/hicolor/scalable/apps/brimo.svg
+#   share/man/man1/Brimo2010.1.gz
+#   share/doc/brimo/changelog.gz
+#
+# The program itself finds its files through the Wine prefix alone; nothing
+# installed here is read by it at run time.
+
+set(BRIMO_SHARE_DIR ${PROJECT_SOURCE_DIR}/share)
+
+install(TARGETS Brimo2010 RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+install(DIRECTORY ${BRIMO_SHARE_DIR}/legends/
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/brimo/legends
+        FILES_MATCHING PATTERN "ZorelMsg_*.txt")
+install(PROGRAMS ${PROJECT_SOURCE_DIR}/scripts/make-demo-prefix.sh
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/brimo)
+install(FILES ${BRIMO_SHARE_DIR}/applications/brimo.desktop
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
+install(FILES ${BRIMO_SHARE_DIR}/icons/brimo.svg
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
+
+# The manual page and the changelog go compressed, as Debian wants them.
+set(BRIMO_PACKED_DIR ${PROJECT_BINARY_DIR}/packed)
+add_custom_command(
+  OUTPUT ${BRIMO_PACKED_DIR}/Brimo2010.1.gz ${BRIMO_PACKED_DIR}/changelog.gz
+  COMMAND ${CMAKE_COMMAND} -E make_directory ${BRIMO_PACKED_DIR}
+  COMMAND gzip -9nc ${BRIMO_SHARE_DIR}/man/Brimo2010.1 > ${BRIMO_PACKED_DIR}/Brimo2010.1.gz
+  COMMAND gzip -9nc ${BRIMO_SHARE_DIR}/doc/changelog > ${BRIMO_PACKED_DIR}/changelog.gz
+  DEPENDS ${BRIMO_SHARE_DIR}/man/Brimo2010.1 ${BRIMO_SHARE_DIR}/doc/changelog
+  VERBATIM)
+add_custom_target(brimo_packed_docs ALL
+  DEPENDS ${BRIMO_PACKED_DIR}/Brimo2010.1.gz ${BRIMO_PACKED_DIR}/changelog.gz)
+install(FILES ${BRIMO_PACKED_DIR}/Brimo2010.1.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+install(FILES ${BRIMO_PACKED_DIR}/changelog.gz DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/brimo)
+
+# Debian package: `cpack` in the build folder.
+set(BRIMO_PACKAGE_MAINTAINER "Brimo maintainers <brimo@example.org>"
+    CACHE STRING "Maintainer field of the Debian package")
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_NAME brimo)
+set(CPACK_PACKAGE_VERSION ${PROJECT_VERSION})
+set(CPACK_PACKAGE_VENDOR "Brimo")
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "variable editor of the Zorel add-on for AutoCAD")
+set(CPACK_PACKAGE_DESCRIPTION
+  "Brimo2010 edits the settings that the Zorel add-on works with: the drawing
+frame and layer, units, text styles and heights, dimension style, office
+details, language, display switches and the locations of other programs, and
+the parameters of the slope-toe search. OK writes each value to a Lisp file
+that the add-on loads and to the user's profile file.
+
+The program works on the Windows installation of a Wine prefix, where AutoCAD
+and the add-on run. Its dialogs speak French, English, German and Italian.")
+set(CPACK_DEBIAN_PACKAGE_MAINTAINER "${BRIMO_PACKAGE_MAINTAINER}")
+set(CPACK_DEBIAN_PACKAGE_SECTION graphics)
+set(CPACK_DEBIAN_PACKAGE_PRIORITY optional)
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_PACKAGING_INSTALL_PREFIX /usr)
+set(CPACK_STRIP_FILES ON)
+include(CPack)
