@@ -14,6 +14,7 @@
 #include <QTabWidget>
 
 #include <array>
+#include <span>
 
 namespace brimo {
 
@@ -197,6 +198,12 @@ constexpr auto kTab5 = std::to_array<ControlSpec>({
     button("Command8", "", "variable", 5760, 2805, 1200, 375),
 });
 
+struct TabSpec {
+    const char* caption; // at design time, UTF-8
+    std::span<const ControlSpec> controls;
+};
+
+// The six tabs of SSTab1, in the order of their numbers.
 constexpr auto kTabs = std::to_array<TabSpec>({
     {"Début", kTab0},
     {"Style", kTab1},
@@ -206,6 +213,7 @@ constexpr auto kTabs = std::to_array<TabSpec>({
     {"Programmes", kTab5},
 });
 
+// The four buttons below the tabs.
 constexpr auto kButtons = std::to_array<ControlSpec>({
     button("Command7", "", "Choisir", 117, 3978, 975, 375),
     button("cmdAbout", "", "A propos", 1170, 3978, 975, 375),
@@ -292,9 +300,6 @@ void buildTable(std::span<const ControlSpec> table, QWidget* base, GeneralContro
 }
 
 } // namespace
-
-std::span<const TabSpec> GeneralTabs() { return kTabs; }
-std::span<const ControlSpec> GeneralButtons() { return kButtons; }
 
 const ControlSpec* FindGeneralControl(QAnyStringView name) {
     for (const TabSpec& tab : kTabs)

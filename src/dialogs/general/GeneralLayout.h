@@ -7,8 +7,6 @@
 #include <QHash>
 #include <QString>
 
-#include <span>
-
 class QTabWidget;
 class QWidget;
 
@@ -39,15 +37,6 @@ struct ControlSpec {
     DesignState state;
 };
 
-struct TabSpec {
-    const char* caption; // at design time, UTF-8
-    std::span<const ControlSpec> controls;
-};
-
-// The six tabs of SSTab1, in the order of their numbers.
-std::span<const TabSpec> GeneralTabs();
-// The four buttons below the tabs.
-std::span<const ControlSpec> GeneralButtons();
 // The row of a control of any table, or nullptr.
 const ControlSpec* FindGeneralControl(QAnyStringView name);
 

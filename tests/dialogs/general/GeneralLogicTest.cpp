@@ -58,26 +58,6 @@ TEST(GeneralCommitLogicTest, AQuoteIsRefusedInStringRowsOnlyTheFirstInRowOrder) 
     EXPECT_TRUE(UnwritableQuoteMessage(*field).contains("x_style_cot"));
 }
 
-TEST(GeneralCommitLogicTest, AGroupWithoutAChoiceWritesNeitherLineNorKey) {
-    GeneralControlState state;
-    state.selectedOptions = {"Option2(2)", "Option4(6)", "Option5(1)"};
-    state.checkStates = {{"Check1", 2}, {"Check2", 0}, {"Check3", 1}};
-    const QList<CommittedRow> rows = ComposeGeneralCommit(state);
-    ASSERT_EQ(rows.size(), 50);
-    QStringList keys;
-    for (const CommittedRow& row : rows) keys.append(row.key + "=" + row.value);
-    EXPECT_FALSE(keys.join(' ').contains("x_def_ounit"));
-    EXPECT_TRUE(keys.contains("x_def_punit=2"));
-    EXPECT_TRUE(keys.contains("x_chttt=3"));
-    EXPECT_TRUE(keys.contains("x_lang=ENG"));
-    EXPECT_TRUE(keys.contains("affilogoKVO=1")) << "grey counts as ticked";
-    EXPECT_TRUE(keys.contains("affiprofil=0"));
-    EXPECT_TRUE(keys.contains("x_chtlay=1"));
-    EXPECT_EQ(rows[39].line, "(setq x_chttt 3) ;Commande Autocad aprés choix du style - Texte paragraphe");
-    EXPECT_EQ(rows[40].line, "(setq x_lang \"ENG\") ; Langue anglais");
-    EXPECT_EQ(rows.last().key, "path_win5");
-}
-
 TEST(ProgramLocationsTest, WindowsFiltersBecomeToolkitFilters) {
     const std::pair<const char*, const char*> cases[] = {
         {"Programs (*.exe)|*.exe|All (*.*)|*.*", "Programs (*.exe);;All (*.*)"},
