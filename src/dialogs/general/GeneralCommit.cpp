@@ -56,8 +56,8 @@ std::optional<UnwritableField> FindUnwritableQuote(const GeneralControlState& st
         const QString control = QLatin1String(kGeneralCommitSources[i].control);
         if (!writtenBetweenQuotes(row) || !state.texts.value(control).contains(QLatin1Char('"'))) continue;
         // The comment of the row, behind ") ;", says what the field holds.
-        const QString description = QString::fromUtf8(row.closing).section(QLatin1Char(';'), 1);
-        return UnwritableField{control, QString::fromLatin1(row.lispName), description};
+        const QString comment = QString::fromUtf8(row.closing).section(QLatin1Char(';'), 1);
+        return UnwritableField{control, QString::fromLatin1(row.lispName), comment};
     }
     return std::nullopt;
 }
@@ -67,7 +67,7 @@ QString UnwritableQuoteMessage(const UnwritableField& field) {
                           "recevoir. Retirez-le, puis validez à nouveau.\r\n\r\n"
                           "The field \"%1\" (%2) holds a double quote (\"), which the Lisp file cannot take. "
                           "Remove it, then press OK again.")
-        .arg(field.description, field.key);
+        .arg(field.comment, field.key);
 }
 
 } // namespace brimo

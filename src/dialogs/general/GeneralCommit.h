@@ -122,7 +122,7 @@ QList<CommittedRow> ComposeGeneralCommit(const GeneralControlState& state);
 struct UnwritableField {
     QString control;     // the field
     QString key;         // its key and Lisp name
-    QString description; // what the Lisp comment calls it, in French
+    QString comment; // what the Lisp comment calls it, in French
 };
 
 // The first such field in catalogue order, or nothing.

@@ -22,31 +22,31 @@ namespace {
 
 using K = ControlKind;
 
-constexpr ControlSpec frame(const char* name, const char* parent, const char* caption, int l, int t, int w, int h) {
+constexpr ControlRow frame(const char* name, const char* parent, const char* caption, int l, int t, int w, int h) {
     return {name, K::Frame, parent, caption, "", l, t, w, h, DesignState::Plain};
 }
-constexpr ControlSpec label(const char* name, const char* parent, const char* caption, int l, int t, int w, int h) {
+constexpr ControlRow label(const char* name, const char* parent, const char* caption, int l, int t, int w, int h) {
     return {name, K::Label, parent, caption, "", l, t, w, h, DesignState::Plain};
 }
-constexpr ControlSpec field(const char* name, const char* parent, const char* text, const char* key, int l, int t,
+constexpr ControlRow field(const char* name, const char* parent, const char* text, const char* key, int l, int t,
                             int w, int h) {
     return {name, K::RuleText, parent, text, key, l, t, w, h, DesignState::Plain};
 }
-constexpr ControlSpec path(const char* name, const char* parent, const char* key, int l, int t, int w, int h) {
+constexpr ControlRow path(const char* name, const char* parent, const char* key, int l, int t, int w, int h) {
     return {name, K::PathText, parent, "", key, l, t, w, h, DesignState::Plain};
 }
-constexpr ControlSpec option(const char* name, const char* parent, const char* caption, const char* key, int l, int t,
+constexpr ControlRow option(const char* name, const char* parent, const char* caption, const char* key, int l, int t,
                              int w, int h, DesignState state = DesignState::Plain) {
     return {name, K::Option, parent, caption, key, l, t, w, h, state};
 }
-constexpr ControlSpec check(const char* name, const char* parent, const char* caption, const char* key, int l, int t,
+constexpr ControlRow check(const char* name, const char* parent, const char* caption, const char* key, int l, int t,
                             int w, int h) {
     return {name, K::Check, parent, caption, key, l, t, w, h, DesignState::Plain};
 }
-constexpr ControlSpec button(const char* name, const char* parent, const char* caption, int l, int t, int w, int h) {
+constexpr ControlRow button(const char* name, const char* parent, const char* caption, int l, int t, int w, int h) {
     return {name, K::Button, parent, caption, "", l, t, w, h, DesignState::Plain};
 }
-constexpr ControlSpec shape(const char* name, const char* parent, int l, int t, int w, int h) {
+constexpr ControlRow shape(const char* name, const char* parent, int l, int t, int w, int h) {
     return {name, K::Shape, parent, "", "", l, t, w, h, DesignState::Plain};
 }
 
@@ -56,7 +56,7 @@ constexpr int F = 300; // height of a text field
 constexpr int L = 240; // height of a label, an option, a check box
 
 // Tab 0, "Début": the frame with its sketch, the default units, the zmult colours.
-constexpr auto kTab0 = std::to_array<ControlSpec>({
+constexpr auto kTab0 = std::to_array<ControlRow>({
     frame("Frame7", "", "Cadre", 120, 45, 3540, 3240),
     label("Txt2", "Frame7", "Nom du calque", 120, 300, 1440, L),
     field("Val4", "Frame7", "", "cadre_layer", 1620, 270, 1800, F),
@@ -96,7 +96,7 @@ constexpr auto kTab0 = std::to_array<ControlSpec>({
 
 // Tab 1, "Style": two columns of four styles (label, height, font), then the
 // dimension style.
-constexpr auto kTab1 = std::to_array<ControlSpec>({
+constexpr auto kTab1 = std::to_array<ControlRow>({
     frame("Box5", "", "Hauteur des styles (mm papier)", 120, 45, 6840, 2265),
     label("Label1", "Box5", "Type de police", 1680, 240, 1560, L),
     label("Label19", "Box5", "Type de police", 5100, 240, 1560, L),
@@ -135,7 +135,7 @@ constexpr auto kTab1 = std::to_array<ControlSpec>({
 });
 
 // Tab 2, "Texte": slant and compression; the command after a style is chosen.
-constexpr auto kTab2 = std::to_array<ControlSpec>({
+constexpr auto kTab2 = std::to_array<ControlRow>({
     frame("Box3", "", "Texte", 120, 45, 3300, 1140),
     label("Txt5", "Box3", "Inclinaison", 120, 330, 1260, L),
     field("Val5", "Box3", "", "x_incli", 1440, 300, 720, F),
@@ -150,7 +150,7 @@ constexpr auto kTab2 = std::to_array<ControlSpec>({
 });
 
 // Tab 3, "Bureau d'ingénieurs": the office, one line each, town beside postcode.
-constexpr auto kTab3 = std::to_array<ControlSpec>({
+constexpr auto kTab3 = std::to_array<ControlRow>({
     frame("Frame1", "", "Nom du bureau", 120, 45, 6840, 2250),
     label("Etiquette1", "Frame1", "Nom", 120, 330, 1380, L),
     field("Val15", "Frame1", "Nom du bureau", "x_nom_bureau", 1560, 300, 5100, F),
@@ -167,7 +167,7 @@ constexpr auto kTab3 = std::to_array<ControlSpec>({
 
 // Tab 4, "Divers": the languages (French and German alone can be chosen) and
 // two display switches.
-constexpr auto kTab4 = std::to_array<ControlSpec>({
+constexpr auto kTab4 = std::to_array<ControlRow>({
     frame("Frame8", "", "Langues", 120, 45, 4200, 1005),
     option("Option5(0)", "Frame8", "Français", "x_lang", 240, 300, 1800, L, DesignState::Selected),
     option("Option5(2)", "Frame8", "Allemand", "x_lang", 2160, 300, 1800, L),
@@ -181,7 +181,7 @@ constexpr auto kTab4 = std::to_array<ControlSpec>({
 // Tab 5, "Programmes": one line per program, Acrobat Reader before the
 // personal program.
 constexpr int B = 330; // height of a program button
-constexpr auto kTab5 = std::to_array<ControlSpec>({
+constexpr auto kTab5 = std::to_array<ControlRow>({
     frame("Frame10", "", "Emplacement des programmes", 120, 45, 6840, 2625),
     button("Command1", "Frame10", "Explorer", 120, 270, 1800, B),
     path("Text11", "Frame10", "Path_Win1", 2040, 285, 4620, F),
@@ -198,13 +198,13 @@ constexpr auto kTab5 = std::to_array<ControlSpec>({
     button("Command8", "", "variable", 5760, 2805, 1200, 375),
 });
 
-struct TabSpec {
+struct TabTable {
     const char* caption; // at design time, UTF-8
-    std::span<const ControlSpec> controls;
+    std::span<const ControlRow> controls;
 };
 
 // The six tabs of SSTab1, in the order of their numbers.
-constexpr auto kTabs = std::to_array<TabSpec>({
+constexpr auto kTabs = std::to_array<TabTable>({
     {"Début", kTab0},
     {"Style", kTab1},
     {"Texte", kTab2},
@@ -214,7 +214,7 @@ constexpr auto kTabs = std::to_array<TabSpec>({
 });
 
 // The four buttons below the tabs.
-constexpr auto kButtons = std::to_array<ControlSpec>({
+constexpr auto kButtons = std::to_array<ControlRow>({
     button("Command7", "", "Choisir", 117, 3978, 975, 375),
     button("cmdAbout", "", "A propos", 1170, 3978, 975, 375),
     button("cmdOK", "", "OK", 3978, 3978, 975, 375),
@@ -253,9 +253,9 @@ protected:
     void nextCheckState() override { setCheckState(checkState() == Qt::Checked ? Qt::Unchecked : Qt::Checked); }
 };
 
-QWidget* createControl(const ControlSpec& spec, QWidget* parent, MainModule& module) {
-    const QString caption = QString::fromUtf8(spec.caption);
-    switch (spec.kind) {
+QWidget* createControl(const ControlRow& row, QWidget* parent, MainModule& module) {
+    const QString caption = QString::fromUtf8(row.caption);
+    switch (row.kind) {
     case K::Frame: return new QGroupBox(caption, parent);
     case K::Label: {
         auto* text = new QLabel(caption, parent);
@@ -263,7 +263,7 @@ QWidget* createControl(const ControlSpec& spec, QWidget* parent, MainModule& mod
         return text;
     }
     case K::RuleText: {
-        const FieldRule* rule = FindFieldRule(GeneralFieldRules(), QString::fromLatin1(spec.name));
+        const FieldRule* rule = FindFieldRule(GeneralFieldRules(), QString::fromLatin1(row.name));
         Q_ASSERT(rule);
         auto* text = new RuleField(*rule, module, parent);
         text->setText(caption);
@@ -287,26 +287,26 @@ QWidget* createControl(const ControlSpec& spec, QWidget* parent, MainModule& mod
     return nullptr;
 }
 
-void buildTable(std::span<const ControlSpec> table, QWidget* base, GeneralControls& controls, MainModule& module) {
-    for (const ControlSpec& spec : table) {
-        QWidget* parent = *spec.parent ? controls.byName.value(QLatin1String(spec.parent)) : base;
-        QWidget* control = createControl(spec, parent, module);
-        control->setObjectName(QLatin1String(spec.name));
-        PlaceInTwips(control, spec.left, spec.top, spec.width, spec.height);
-        if (spec.state == DesignState::Selected) static_cast<QRadioButton*>(control)->setChecked(true);
-        if (spec.state == DesignState::Disabled) control->setEnabled(false);
+void buildTable(std::span<const ControlRow> table, QWidget* base, GeneralControls& controls, MainModule& module) {
+    for (const ControlRow& row : table) {
+        QWidget* parent = *row.parent ? controls.byName.value(QLatin1String(row.parent)) : base;
+        QWidget* control = createControl(row, parent, module);
+        control->setObjectName(QLatin1String(row.name));
+        PlaceInTwips(control, row.left, row.top, row.width, row.height);
+        if (row.state == DesignState::Selected) static_cast<QRadioButton*>(control)->setChecked(true);
+        if (row.state == DesignState::Disabled) control->setEnabled(false);
         controls.byName.insert(control->objectName(), control);
     }
 }
 
 } // namespace
 
-const ControlSpec* FindGeneralControl(QAnyStringView name) {
-    for (const TabSpec& tab : kTabs)
-        for (const ControlSpec& spec : tab.controls)
-            if (QAnyStringView::equal(name, QLatin1String(spec.name))) return &spec;
-    for (const ControlSpec& spec : kButtons)
-        if (QAnyStringView::equal(name, QLatin1String(spec.name))) return &spec;
+const ControlRow* FindGeneralControl(QAnyStringView name) {
+    for (const TabTable& tab : kTabs)
+        for (const ControlRow& row : tab.controls)
+            if (QAnyStringView::equal(name, QLatin1String(row.name))) return &row;
+    for (const ControlRow& row : kButtons)
+        if (QAnyStringView::equal(name, QLatin1String(row.name))) return &row;
     return nullptr;
 }
 
@@ -318,7 +318,7 @@ GeneralControls BuildGeneralControls(QWidget* form, MainModule& module) {
     PlaceInTwips(controls.tabs, 117, 117, 7137, 3887);
     controls.byName.insert(QStringLiteral("SSTab1"), controls.tabs);
 
-    for (const TabSpec& tab : kTabs) {
+    for (const TabTable& tab : kTabs) {
         auto* page = new QWidget;
         controls.tabs->addTab(page, QString::fromUtf8(tab.caption));
         buildTable(tab.controls, page, controls, module);

@@ -27,7 +27,7 @@ enum class ControlKind {
 
 enum class DesignState { Plain, Selected, Disabled };
 
-struct ControlSpec {
+struct ControlRow {
     const char* name;
     ControlKind kind;
     const char* parent;  // a frame of the same table; "" for the tab (or the form)
@@ -38,7 +38,7 @@ struct ControlSpec {
 };
 
 // The row of a control of any table, or nullptr.
-const ControlSpec* FindGeneralControl(QAnyStringView name);
+const ControlRow* FindGeneralControl(QAnyStringView name);
 
 struct GeneralControls {
     QTabWidget* tabs = nullptr;       // SSTab1

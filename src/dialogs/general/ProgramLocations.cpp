@@ -17,10 +17,10 @@ QString ToolkitFileFilter(const QString& windowsFilter) {
         patterns.removeAll(QString());
         if (patterns.isEmpty()) continue;
         const QString group = QLatin1Char('(') + patterns.join(QLatin1Char(' ')) + QLatin1Char(')');
-        const QString description = parts.at(i).trimmed();
-        if (description.endsWith(group)) filters.append(description);
-        else if (description.isEmpty()) filters.append(group);
-        else filters.append(description + QLatin1Char(' ') + group);
+        const QString label = parts.at(i).trimmed();
+        if (label.endsWith(group)) filters.append(label);
+        else if (label.isEmpty()) filters.append(group);
+        else filters.append(label + QLatin1Char(' ') + group);
     }
     return filters.join(QStringLiteral(";;"));
 }

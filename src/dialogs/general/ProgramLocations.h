@@ -30,10 +30,10 @@ inline constexpr std::array<ProgramLocation, 6> kProgramLocations = {{
 // The filter shared by the six dialogs.
 inline constexpr int kProgramFilterLegend = Legend::ProgramFilter;
 
-// A Windows filter ("Programs (*.exe)|*.exe|All (*.*)|*.*": description and
+// A Windows filter ("Programs (*.exe)|*.exe|All (*.*)|*.*": label and
 // patterns in turn, patterns separated by ';') in the form of the toolkit's
-// file dialog ("Programs (*.exe);;All (*.*)"). A description that does not
-// end in its patterns gets them in parentheses; a description without
+// file dialog ("Programs (*.exe);;All (*.*)"). A label that does not
+// end in its patterns gets them in parentheses; a label without
 // patterns is dropped.
 QString ToolkitFileFilter(const QString& windowsFilter);
 

@@ -54,7 +54,7 @@ TEST(GeneralCommitLogicTest, AQuoteIsRefusedInStringRowsOnlyTheFirstInRowOrder) 
     ASSERT_TRUE(field);
     EXPECT_EQ(field->control, "Text2");
     EXPECT_EQ(field->key, "x_style_cot");
-    EXPECT_EQ(field->description, "Polices pour le style cote");
+    EXPECT_EQ(field->comment, "Polices pour le style cote");
     EXPECT_TRUE(UnwritableQuoteMessage(*field).contains("x_style_cot"));
 }
 
