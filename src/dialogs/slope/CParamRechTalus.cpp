@@ -61,8 +61,9 @@ CParamRechTalus::CParamRechTalus(MainModule& module) : BrimoForm(module) {
     setFont(FormFont());
     // A frame's caption sits on its top border, as the controls inside were
     // placed to clear it; the classic style draws frames so.
+    // Without that style (a stripped Qt) frames keep the application's.
     frameStyle_ = QStyleFactory::create(QStringLiteral("Windows"));
-    frameStyle_->setParent(this);
+    if (frameStyle_) frameStyle_->setParent(this);
     setFixedSize(TwipsSize(kSlopeFormWidth, kSlopeFormHeight));
 
     // Parents come before their children in the table.

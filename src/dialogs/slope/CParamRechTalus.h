@@ -40,7 +40,7 @@ private:
     void untickOtherWhenTicked(const char* own, const char* other);
     template <class Control> Control* control(const char* name) const;
 
-    QStyle* frameStyle_;
+    QStyle* frameStyle_ = nullptr;
 };
 
 } // namespace brimo
