@@ -40,7 +40,10 @@ bool folderAndFileWritable(const QString& nativePath, QString* error) {
         if (error) *error = QStringLiteral("a folder of that name stands in the way");
         return false;
     }
-    if (info.exists() && !info.isWritable()) {
+    // A file without any write bit is read-only for every user, root too, as
+    // Wine maps the read-only attribute.
+    constexpr auto anyWrite = QFileDevice::WriteOwner | QFileDevice::WriteGroup | QFileDevice::WriteOther;
+    if (info.exists() && (!info.isWritable() || !(info.permissions() & anyWrite))) {
         if (error) *error = QStringLiteral("the file is read-only");
         return false;
     }

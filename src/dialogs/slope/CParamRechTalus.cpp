@@ -1,10 +1,187 @@
 #include "dialogs/slope/CParamRechTalus.h"
 
+#include "app/CommitFailureReport.h"
+#include "app/MainModule.h"
+#include "dialogs/about/CAboutForm.h"
+#include "dialogs/general/RuleField.h"
+#include "dialogs/slope/SketchLayer.h"
+#include "dialogs/slope/SlopeControls.h"
+#include "platform/WindowServices.h"
+
+#include <QCheckBox>
+#include <QGroupBox>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QStyle>
+#include <QStyleFactory>
+
+#include <algorithm>
+
 namespace brimo {
+
+namespace {
+
+// The events the dialog answers, by control.
+struct EventBinding {
+    const char* control;
+    void (CParamRechTalus::*handler)();
+};
+constexpr EventBinding kEvents[] = {
+    {"Check1", &CParamRechTalus::Check1_Click},
+    {"Check2", &CParamRechTalus::Check2_Click},
+    {"Command1", &CParamRechTalus::Command1_Click},
+    {"CmdCancel", &CParamRechTalus::CmdCancel_Click},
+    {"cmdAbout", &CParamRechTalus::cmdAbout_Click},
+};
+
+constexpr const char* kTextFields[] = {"Text1", "Text2", "Text3", "Text4", "Text5", "Text6"};
+
+// The captions were sized for a narrow 8-point face (the longest label holds
+// 42 characters in 188 pixels at 96 DPI); a wider face would cut them.
+QFont FormFont() {
+    QFont font;
+    font.setFamilies({QStringLiteral("Arial Narrow"), QStringLiteral("Liberation Sans Narrow"),
+                      QStringLiteral("Nimbus Sans Narrow")});
+    font.setPointSize(8);
+    return font;
+}
+
+bool takesFocus(SlopeControlKind kind) {
+    return kind != SlopeControlKind::Frame && kind != SlopeControlKind::Label;
+}
+
+} // namespace
 
 CParamRechTalus::CParamRechTalus(MainModule& module) : BrimoForm(module) {
     setObjectName(QStringLiteral("CParamRechTalus"));
     setWindowTitle(QStringLiteral("Paramètre de recherche pied de talus"));
+    useFixedBorder();
+    setFont(FormFont());
+    // A frame's caption sits on its top border, as the controls inside were
+    // placed to clear it; the classic style draws frames so.
+    // Without that style (a stripped Qt) frames keep the application's.
+    frameStyle_ = QStyleFactory::create(QStringLiteral("Windows"));
+    if (frameStyle_) frameStyle_->setParent(this);
+    setFixedSize(TwipsSize(kSlopeFormWidth, kSlopeFormHeight));
+
+    // Parents come before their children in the table.
+    for (const SlopeControl& entry : SlopeControls()) {
+        QWidget* parent = entry.parent ? control<QWidget>(entry.parent) : this;
+        QWidget* widget = createControl(entry, parent);
+        widget->setObjectName(QString::fromLatin1(entry.name));
+        PlaceInTwips(widget, entry.left, entry.top, entry.width, entry.height);
+    }
+    drawSketches();
+    bindEvents();
+    chainTabOrder();
+    control<QWidget>("Check1")->setFocus();
+}
+
+QWidget* CParamRechTalus::createControl(const SlopeControl& entry, QWidget* parent) {
+    const QString caption = QString::fromUtf8(entry.caption);
+    switch (entry.kind) {
+    case SlopeControlKind::Frame: {
+        auto* frame = new QGroupBox(caption, parent);
+        frame->setStyle(frameStyle_);
+        return frame;
+    }
+    case SlopeControlKind::Label: {
+        auto* label = new QLabel(caption, parent);
+        label->setWordWrap(true);
+        label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+        return label;
+    }
+    case SlopeControlKind::CheckBox: {
+        auto* box = new QCheckBox(caption, parent);
+        box->setChecked(entry.setAtOpening);
+        return box;
+    }
+    case SlopeControlKind::OptionButton: {
+        auto* option = new QRadioButton(caption, parent);
+        option->setChecked(entry.setAtOpening);
+        return option;
+    }
+    case SlopeControlKind::TextField: {
+        auto* field = new RuleField(*FindFieldRule(SlopeFieldRules(), QString::fromLatin1(entry.name)), module_, parent);
+        field->setText(caption);
+        field->setAlignment(Qt::AlignCenter);
+        return field;
+    }
+    case SlopeControlKind::Button: break;
+    }
+    // No button is a default one: Enter inside a field must not commit.
+    auto* button = new QPushButton(caption, parent);
+    button->setAutoDefault(false);
+    button->setDefault(false);
+    return button;
+}
+
+void CParamRechTalus::drawSketches() {
+    for (const FrameSketch& sketch : SlopeDiagram()) new SketchLayer(sketch, control<QWidget>(sketch.frame));
+}
+
+// Tab order is the table's TabIndex; frames and labels never hold the focus.
+void CParamRechTalus::chainTabOrder() {
+    std::vector<const SlopeControl*> order;
+    for (const SlopeControl& entry : SlopeControls())
+        if (takesFocus(entry.kind)) order.push_back(&entry);
+    std::ranges::sort(order, {}, &SlopeControl::tabIndex);
+    for (std::size_t i = 1; i < order.size(); ++i)
+        setTabOrder(control<QWidget>(order[i - 1]->name), control<QWidget>(order[i]->name));
+}
+
+// A check box's click follows every change of its state, by the user or by
+// an assignment.
+void CParamRechTalus::bindEvents() {
+    for (const EventBinding& binding : kEvents) {
+        const auto handler = binding.handler;
+        if (auto* box = control<QCheckBox>(binding.control))
+            connect(box, &QCheckBox::stateChanged, this, [this, handler] { (this->*handler)(); });
+        else
+            connect(control<QPushButton>(binding.control), &QPushButton::clicked, this, [this, handler] { (this->*handler)(); });
+    }
+}
+
+void CParamRechTalus::Form_Load() { CentreOnScreen(this); }
+
+void CParamRechTalus::Check1_Click() { untickOtherWhenTicked("Check1", "Check2"); }
+void CParamRechTalus::Check2_Click() { untickOtherWhenTicked("Check2", "Check1"); }
+
+void CParamRechTalus::untickOtherWhenTicked(const char* own, const char* other) {
+    if (control<QCheckBox>(own)->isChecked()) control<QCheckBox>(other)->setChecked(false);
+}
+
+SlopeControlState CParamRechTalus::ControlState() const {
+    SlopeControlState state;
+    state.check1Ticked = control<QCheckBox>("Check1")->checkState() == Qt::Checked;
+    state.check2Ticked = control<QCheckBox>("Check2")->checkState() == Qt::Checked;
+    state.option2Chosen = control<QRadioButton>("Option2")->isChecked();
+    for (std::size_t i = 0; i < state.texts.size(); ++i) state.texts[i] = control<RuleField>(kTextFields[i])->text();
+    return state;
+}
+
+void CParamRechTalus::Command1_Click() {
+    const CommitOutcome outcome = CommitSlopeVariables(module_.installInfo, ControlState());
+    if (!outcome.ok) {
+        ReportCommitFailureAndEnd(module_, outcome);
+        return;
+    }
+    module_.End(0);
+}
+
+void CParamRechTalus::CmdCancel_Click() { module_.End(0); }
+
+void CParamRechTalus::cmdAbout_Click() { module_.Show<CAboutForm>(); }
+
+void CParamRechTalus::keyPressEvent(QKeyEvent* event) {
+    if (event->key() == Qt::Key_Escape) return;
+    BrimoForm::keyPressEvent(event);
+}
+
+template <class Control> Control* CParamRechTalus::control(const char* name) const {
+    return findChild<Control*>(QLatin1String(name));
 }
 
 } // namespace brimo
