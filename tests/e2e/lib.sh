@@ -78,7 +78,7 @@ e2e_wait_exit() {
 
 # e2e_keys KEY...: sends keys to the focused window
 e2e_keys() { xdotool key --delay 60 "$@"; sleep 0.3; }
-e2e_type() { xdotool type --delay 40 "$1"; sleep 0.3; }
+e2e_type() { xdotool type --delay 40 -- "$1"; sleep 0.3; }
 
 # e2e_screenshot FILE: the whole screen as PNG
 e2e_screenshot() { import -window root "$1"; }
