@@ -176,7 +176,8 @@ QList<std::pair<QByteArray, std::optional<QByteArray>>> readCorpus() {
            "dots=\x85\r\n[\xA0S]\r\nk=nb section\r\n[\x8A]\r\nk=S caron\r\n"sv)},
         {"controls.ini",
          b("[C]\r\nvt=\x0bv\x0b\r\nff=\x0c" "f\x0c\r\nfs=\x1c" "a\x1c\r\nus=\x1f" "b\x1f\r\nnul=ab\x00" "cd\r\nna\x00me=2\r\n"
-           "\x00lead=3\r\nq=\"a\x00\"\r\n[T\x00U]\r\nk=after nul\r\n[V]\r\nk=v\x1a\x1a\x1a"sv)},
+           "\x00lead=3\r\nq=\"a\x00\"\r\nsp \x00=4\r\nv2= \x00 5\r\n[T\x00U]\r\nk=after nul\r\n[W \x00]\r\nk=w\r\n"
+           "[\x00X]\r\nk=x\r\n[V]\r\nk=v\x1a\x1a\x1a"sv)},
         {"empty.ini", QByteArray()},
         {"blank.ini", b("\r\n \r\n\t\r\n"sv)},
         {"missing.ini", std::nullopt},
