@@ -1,5 +1,6 @@
 #include "platform/ProfileDocument.h"
 
+#include <algorithm>
 #include <cstring>
 
 namespace brimo {
@@ -13,14 +14,22 @@ bool isLineEnd(char c) { return c == '\n' || c == '\r'; }
 unsigned char foldAscii(unsigned char c) { return c >= 'A' && c <= 'Z' ? static_cast<unsigned char>(c + 32) : c; }
 
 // The end of the line that starts at or before `from`: its first CR or LF, or
-// the end of the bytes. Two memchr passes are faster than one loop.
+// the end of the bytes. Two memchr passes are faster than one loop; they go
+// by blocks so that a file whose lines end in CR alone is not read to its end
+// for every line.
 qsizetype lineEndOf(QByteArrayView bytes, qsizetype from) {
+    constexpr qsizetype kBlock = 4096;
     const char* data = bytes.data();
     const qsizetype size = bytes.size();
-    const void* lf = std::memchr(data + from, '\n', static_cast<size_t>(size - from));
-    const qsizetype lfAt = lf ? static_cast<const char*>(lf) - data : size;
-    const void* cr = std::memchr(data + from, '\r', static_cast<size_t>(lfAt - from));
-    return cr ? static_cast<const char*>(cr) - data : lfAt;
+    for (qsizetype pos = from; pos < size; pos += kBlock) {
+        const qsizetype blockEnd = std::min(size, pos + kBlock);
+        const void* lf = std::memchr(data + pos, '\n', static_cast<size_t>(blockEnd - pos));
+        const qsizetype lfAt = lf ? static_cast<const char*>(lf) - data : blockEnd;
+        if (const void* cr = std::memchr(data + pos, '\r', static_cast<size_t>(lfAt - pos)))
+            return static_cast<const char*>(cr) - data;
+        if (lf) return lfAt;
+    }
+    return size;
 }
 
 // The first byte of the next line: past one CR LF, CR or LF at `lineEnd`.

@@ -60,6 +60,8 @@ INSTANTIATE_TEST_SUITE_P(
         ReadCase{"an empty file", "", "S", "k", ""},
         ReadCase{"CR alone ends a line", "[S]\rk=1\r[T]\rk=3\r", "T", "k", "3"},
         ReadCase{"LF alone ends a line", "[S]\nk=1\n[T]\nk=3", "T", "k", "3"},
+        ReadCase{"a CR after a line of 10000 characters", "[S]\rk=" + k300.repeated(34).toStdString() + "\rj=2\r", "S",
+                 "j", "2"},
         ReadCase{"blanks inside the brackets", "[ S ]\r\nk=1\r\n", "S", "k", "1"},
         ReadCase{"text after the brackets", "[S] note\r\nk=1\r\n", "S", "k", "1"},
         ReadCase{"the last ']' closes the name", "[S]x]\r\nk=1\r\n", "S]x", "k", "1"},
