@@ -132,8 +132,6 @@ struct WriteCase {
     QList<Put> puts;
 };
 
-QByteArray repeated(char c, int n) { return QByteArray(n, c); }
-
 QList<std::pair<QByteArray, std::optional<QByteArray>>> readCorpus() {
     const QByteArray v300 = QByteArray("0123456789").repeated(30);
     const QByteArray v10000 = QByteArray("abcdefghij").repeated(1000);
@@ -281,7 +279,7 @@ protected:
 
 std::string report(const QList<QByteArray>& lines) {
     std::string out;
-    for (qsizetype i = 0; i < lines.size() && i < 3000; ++i) out += lines[i].toStdString() + "\n";
+    for (qsizetype i = 0; i < lines.size() && i < 60; ++i) out += lines[i].toStdString() + "\n";
     if (lines.size() > 60) out += "... " + std::to_string(lines.size() - 60) + " more\n";
     return out;
 }
