@@ -1,10 +1,214 @@
 #include "dialogs/general/CGeneralForm.h"
 
+#include "app/CChoixForm.h"
+#include "app/CommitFailureReport.h"
+#include "app/MainModule.h"
+#include "dialogs/about/CAboutForm.h"
+#include "dialogs/general/GeneralIcon.h"
+#include "dialogs/general/GeneralLoad.h"
+#include "dialogs/general/ProgramLocations.h"
+#include "legends/LegendNumbers.h"
+#include "platform/WindowServices.h"
+#include "platform/WindowsPaths.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QFileDialog>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPointer>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTabBar>
+#include <QTabWidget>
+
 namespace brimo {
+
+namespace {
+
+const QString kSection = QStringLiteral("Brimo_Gene");
+
+// Check box values as the settings store them: 0 empty, 1 ticked, 2 grey.
+int checkValue(Qt::CheckState state) {
+    switch (state) {
+    case Qt::Unchecked: return 0;
+    case Qt::Checked: return 1;
+    case Qt::PartiallyChecked: return 2;
+    }
+    return 0;
+}
+
+Qt::CheckState checkStateOf(int value) {
+    return value == 0 ? Qt::Unchecked : value == 1 ? Qt::Checked : Qt::PartiallyChecked;
+}
+
+} // namespace
 
 CGeneralForm::CGeneralForm(MainModule& module) : BrimoForm(module) {
     setObjectName(QStringLiteral("CGeneralForm"));
     setWindowTitle(QStringLiteral("Général"));
+    setWindowIcon(GeneralWindowIcon());
+    useFixedBorder();
+    setFixedSize(TwipsSize(7470, 4455));
+    // The size of the classic dialog font, so that six tabs fit in one row.
+    QFont dialogFont = font();
+    dialogFont.setPointSize(8);
+    setFont(dialogFont);
+    controls_ = BuildGeneralControls(this, module);
+
+    // The focus starts on the control of tab index 0.
+    control(u"cmdOK")->setFocus();
+
+    connect(controls_.tabs, &QTabWidget::currentChanged, this, [this] { SSTab1_Click(); });
+    for (int index = 0; index < static_cast<int>(kLanguageCodes.size()); ++index)
+        connect(option(QStringLiteral("Option5(%1)").arg(index)), &QRadioButton::toggled, this,
+                [this, index](bool selected) {
+                    if (selected) Option5_Click(index);
+                });
+
+    const auto onClick = [this](QAnyStringView name, auto handler) {
+        connect(static_cast<QPushButton*>(control(name)), &QPushButton::clicked, this, handler);
+    };
+    onClick(u"cmdOK", [this] { cmdOK_Click(); });
+    onClick(u"CmdCancel", [this] { CmdCancel_Click(); });
+    onClick(u"Command7", [this] { Command7_Click(); });
+    onClick(u"cmdAbout", [this] { cmdAbout_Click(); });
+    for (const ProgramLocation& location : kProgramLocations)
+        onClick(QLatin1String(location.button), [this, &location] { ProgramLocation_Click(location); });
 }
+
+void CGeneralForm::Form_Load() {
+    setCaptions(LoadButtonCaptions());
+    setWindowTitle(module_.GetLegends(Legend::GeneralTitle));
+    sweepTabs(LoadTabSweep());
+    controls_.tabs->setCurrentIndex(0);
+
+    const GeneralVariables& variables = module_.generalVariables;
+    for (const char* name : kLoadedTextFields) {
+        QLineEdit* field = textField(QLatin1String(name));
+        field->setText(variables.text(QString::fromLatin1(FindGeneralControl(QLatin1String(name))->key)));
+        field->setCursorPosition(0); // a long text shows its beginning
+    }
+
+    // Selecting a language other than the design's raises Option5_Click here.
+    for (const QString& button : StoredSelections(variables)) option(button)->setChecked(true);
+
+    for (const StoredCheck& stored : kStoredChecks)
+        if (const std::optional<int> value = StoredCheckState(variables.text(QString::fromLatin1(stored.key))))
+            checkBox(QLatin1String(stored.checkBox))->setCheckState(checkStateOf(*value));
+
+    CentreOnScreen(this);
+}
+
+void CGeneralForm::SSTab1_Click() { setCaptions(TabCaptionTable(controls_.tabs->currentIndex())); }
+
+void CGeneralForm::Option5_Click(int index) {
+    module_.generalVariables.setText(u"x_lang", QLatin1String(kLanguageCodes[static_cast<std::size_t>(index)]));
+    module_.LoadLegends();
+    setWindowTitle(module_.GetLegends(Legend::GeneralTitle));
+
+    // While the tabs pass by the focus waits on the tab bar: left on a page,
+    // it would wander through the fields of each tab and run their rules.
+    QPointer<QWidget> focused = QApplication::focusWidget();
+    const bool onPage = focused && controls_.tabs->isAncestorOf(focused) && focused != controls_.tabs->tabBar();
+    if (onPage) controls_.tabs->tabBar()->setFocus(Qt::OtherFocusReason);
+    sweepTabs(LanguageTabSweep());
+    if (onPage && focused && focused->isVisible()) focused->setFocus(Qt::OtherFocusReason);
+}
+
+void CGeneralForm::cmdOK_Click() {
+    const GeneralControlState state = controlState();
+    if (const std::optional<UnwritableField> field = FindUnwritableQuote(state)) {
+        refuseUnwritableQuote(*field);
+        return;
+    }
+    const InstallInfo& info = module_.installInfo;
+    const CommitOutcome outcome =
+        CommitVariables(GeneLispPath(info), BrimoIniPath(info), kSection, ComposeGeneralCommit(state));
+    if (!outcome.ok) {
+        ReportCommitFailureAndEnd(module_, outcome);
+        return;
+    }
+    module_.End(0);
+}
+
+void CGeneralForm::CmdCancel_Click() { module_.End(0); }
+
+void CGeneralForm::Command7_Click() {
+    module_.Show<CChoixForm>();
+    close();
+}
+
+void CGeneralForm::cmdAbout_Click() { module_.Show<CAboutForm>(); }
+
+void CGeneralForm::ProgramLocation_Click(const ProgramLocation& location) {
+    QLineEdit* field = textField(QLatin1String(location.field));
+    QFileDialog dialog(this, module_.GetLegends(location.titleLegend), QString(),
+                       ToolkitFileFilter(module_.GetLegends(kProgramFilterLegend)));
+    dialog.setOption(QFileDialog::DontUseNativeDialog);
+    dialog.setAcceptMode(QFileDialog::AcceptOpen);
+    // Any name comes back, also one of a file that does not exist.
+    dialog.setFileMode(QFileDialog::AnyFile);
+    if (!field->text().isEmpty()) dialog.selectFile(ToNativePath(field->text()));
+    if (dialog.exec() != QDialog::Accepted) return;
+    const QStringList chosen = dialog.selectedFiles();
+    if (chosen.isEmpty() || chosen.first().isEmpty()) return;
+    field->setText(FieldTextForChosenFile(chosen.first()));
+    field->setCursorPosition(0);
+}
+
+void CGeneralForm::keyPressEvent(QKeyEvent* event) {
+    // CmdCancel is no cancel button: Escape closes nothing.
+    if (event->matches(QKeySequence::Cancel)) {
+        event->accept();
+        return;
+    }
+    BrimoForm::keyPressEvent(event);
+}
+
+void CGeneralForm::setCaptions(std::span<const CaptionRow> rows) {
+    for (const CaptionRow& row : rows) SetCaption(control(QLatin1String(row.control)), module_.GetLegends(row.legend));
+}
+
+void CGeneralForm::sweepTabs(std::span<const SweepStep> steps) {
+    for (const SweepStep& step : steps) {
+        controls_.tabs->setCurrentIndex(step.tab);
+        controls_.tabs->setTabText(controls_.tabs->currentIndex(), module_.GetLegends(step.legend));
+    }
+}
+
+GeneralControlState CGeneralForm::controlState() const {
+    GeneralControlState state;
+    for (const CommitSource& source : kGeneralCommitSources) {
+        const QString name = QLatin1String(source.control);
+        switch (source.read) {
+        case ControlRead::Text: state.texts.insert(name, textField(name)->text()); break;
+        case ControlRead::State: state.checkStates.insert(name, checkValue(checkBox(name)->checkState())); break;
+        case ControlRead::Options:
+            for (const ChoiceTest& test : kGeneralChoiceTests)
+                if (test.row == source.row && option(QLatin1String(test.button))->isChecked())
+                    state.selectedOptions.insert(QLatin1String(test.button));
+            break;
+        }
+    }
+    return state;
+}
+
+// Nothing is written: the field is shown with its edits, ready to be put right.
+void CGeneralForm::refuseUnwritableQuote(const UnwritableField& field) {
+    ShowInformationBox(UnwritableQuoteMessage(field), QStringLiteral("Brimo"));
+    QWidget* text = control(field.control);
+    showTabOf(text);
+    text->setFocus(Qt::OtherFocusReason);
+}
+
+void CGeneralForm::showTabOf(QWidget* widget) {
+    for (int tab = 0; tab < controls_.tabs->count(); ++tab)
+        if (controls_.tabs->widget(tab)->isAncestorOf(widget)) controls_.tabs->setCurrentIndex(tab);
+}
+
+QLineEdit* CGeneralForm::textField(QAnyStringView name) const { return static_cast<QLineEdit*>(control(name)); }
+QRadioButton* CGeneralForm::option(QAnyStringView name) const { return static_cast<QRadioButton*>(control(name)); }
+QCheckBox* CGeneralForm::checkBox(QAnyStringView name) const { return static_cast<QCheckBox*>(control(name)); }
 
 } // namespace brimo

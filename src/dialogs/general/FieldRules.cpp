@@ -119,9 +119,9 @@ LeaveOutcome ApplyLeavingRule(const FieldRule& rule, const QString& original) {
 std::span<const FieldRule> GeneralFieldRules() { return kGeneralFieldRules; }
 std::span<const FieldRule> SlopeFieldRules() { return kSlopeFieldRules; }
 
-const FieldRule* FindFieldRule(std::span<const FieldRule> rules, QStringView control) {
+const FieldRule* FindFieldRule(std::span<const FieldRule> rules, QAnyStringView control) {
     for (const FieldRule& rule : rules)
-        if (control == QLatin1String(rule.control)) return &rule;
+        if (QAnyStringView::compare(control, QLatin1String(rule.control)) == 0) return &rule;
     return nullptr;
 }
 

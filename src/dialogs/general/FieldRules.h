@@ -40,6 +40,6 @@ std::span<const FieldRule> GeneralFieldRules();
 // The six fields of CParamRechTalus.
 std::span<const FieldRule> SlopeFieldRules();
 // The row of a control, or nullptr.
-const FieldRule* FindFieldRule(std::span<const FieldRule> rules, QStringView control);
+const FieldRule* FindFieldRule(std::span<const FieldRule> rules, QAnyStringView control);
 
 } // namespace brimo

@@ -1,0 +1,343 @@
+#include "dialogs/general/GeneralLayout.h"
+
+#include "dialogs/general/FieldRules.h"
+#include "dialogs/general/RuleField.h"
+#include "platform/WindowServices.h"
+
+#include <QCheckBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTabBar>
+#include <QTabWidget>
+
+#include <array>
+#include <span>
+
+namespace brimo {
+
+namespace {
+
+using K = ControlKind;
+
+constexpr ControlRow frame(const char* name, const char* parent, const char* caption, int l, int t, int w, int h) {
+    return {name, K::Frame, parent, caption, "", l, t, w, h, DesignState::Plain};
+}
+constexpr ControlRow label(const char* name, const char* parent, const char* caption, int l, int t, int w, int h) {
+    return {name, K::Label, parent, caption, "", l, t, w, h, DesignState::Plain};
+}
+constexpr ControlRow field(const char* name, const char* parent, const char* text, const char* key, int l, int t,
+                            int w, int h) {
+    return {name, K::RuleText, parent, text, key, l, t, w, h, DesignState::Plain};
+}
+constexpr ControlRow path(const char* name, const char* parent, const char* key, int l, int t, int w, int h) {
+    return {name, K::PathText, parent, "", key, l, t, w, h, DesignState::Plain};
+}
+constexpr ControlRow option(const char* name, const char* parent, const char* caption, const char* key, int l, int t,
+                             int w, int h, DesignState state = DesignState::Plain) {
+    return {name, K::Option, parent, caption, key, l, t, w, h, state};
+}
+constexpr ControlRow check(const char* name, const char* parent, const char* caption, const char* key, int l, int t,
+                            int w, int h) {
+    return {name, K::Check, parent, caption, key, l, t, w, h, DesignState::Plain};
+}
+constexpr ControlRow button(const char* name, const char* parent, const char* caption, int l, int t, int w, int h) {
+    return {name, K::Button, parent, caption, "", l, t, w, h, DesignState::Plain};
+}
+constexpr ControlRow shape(const char* name, const char* parent, int l, int t, int w, int h) {
+    return {name, K::Shape, parent, "", "", l, t, w, h, DesignState::Plain};
+}
+
+// Rows of label and field share a line: the label sits 30 twips lower, so
+// that its text stands level with the field's.
+constexpr int F = 300; // height of a text field
+constexpr int L = 240; // height of a label, an option, a check box
+
+// Tab 0, "Début": the frame with its sketch, the default units, the zmult colours.
+constexpr auto kTab0 = std::to_array<ControlRow>({
+    frame("Frame7", "", "Cadre", 120, 45, 3540, 3240),
+    label("Txt2", "Frame7", "Nom du calque", 120, 300, 1440, L),
+    field("Val4", "Frame7", "", "cadre_layer", 1620, 270, 1800, F),
+    label("Txt1", "Frame7", "Dimension [user] en mm.", 120, 690, 3300, L),
+    shape("Shape1", "Frame7", 660, 1305, 1455, 615),
+    field("Val1", "Frame7", "", "cadre_userx", 938, 960, 900, F),
+    field("Val0", "Frame7", "", "cadre_usery", 2190, 1462, 900, F),
+    frame("Box2", "Frame7", "Double cadre", 120, 2040, 3300, 1080),
+    label("Txt3", "Box2", "Couleur (no)", 120, 300, 1200, L),
+    field("Val2", "Box2", "", "cadre_couleur", 1380, 270, 720, F),
+    label("Txt4", "Box2", "Décalage", 120, 675, 1200, L),
+    field("Val3", "Box2", "", "cadre_decal", 1380, 645, 720, F),
+    label("Txt4_1", "Box2", "[mm papier]", 2160, 675, 1080, L),
+    frame("Frame4", "", "Valeurs par défaut", 3780, 45, 3180, 1755),
+    frame("Frame5", "Frame4", "Unité dans l'espace objet", 120, 255, 2940, 660),
+    option("Option1(0)", "Frame5", "mm", "x_def_ounit", 180, 300, 780, L),
+    option("Option1(1)", "Frame5", "cm", "x_def_ounit", 1140, 300, 780, L),
+    option("Option1(2)", "Frame5", "m", "x_def_ounit", 2100, 300, 720, L),
+    frame("Frame6", "Frame4", "Unité dans l'espace papier", 120, 975, 2940, 660),
+    option("Option2(0)", "Frame6", "mm", "x_def_punit", 180, 300, 780, L),
+    option("Option2(1)", "Frame6", "cm", "x_def_punit", 1140, 300, 780, L),
+    option("Option2(2)", "Frame6", "m", "x_def_punit", 2100, 300, 720, L),
+    frame("Frame9", "", "Couleurs des zmults", 3780, 1905, 3180, 1380),
+    label("Label9", "Frame9", "1:10", 120, 330, 510, L),
+    field("Text5", "Frame9", "", "x_color_zm10", 660, 300, 390, F),
+    label("Label10", "Frame9", "1:20", 1170, 330, 510, L),
+    field("Text6", "Frame9", "", "x_color_zm20", 1710, 300, 390, F),
+    label("Label11", "Frame9", "1:50", 2220, 330, 510, L),
+    field("Text7", "Frame9", "", "x_color_zm50", 2760, 300, 390, F),
+    label("Label12", "Frame9", "1:100", 120, 765, 510, L),
+    field("Text8", "Frame9", "", "x_color_zm100", 660, 735, 390, F),
+    label("Label13", "Frame9", "1:200", 1170, 765, 510, L),
+    field("Text9", "Frame9", "", "x_color_zm200", 1710, 735, 390, F),
+    label("Label14", "Frame9", "1:500", 2220, 765, 510, L),
+    field("Text10", "Frame9", "", "x_color_zm500", 2760, 735, 390, F),
+});
+
+// Tab 1, "Style": two columns of four styles (label, height, font), then the
+// dimension style.
+constexpr auto kTab1 = std::to_array<ControlRow>({
+    frame("Box5", "", "Hauteur des styles (mm papier)", 120, 45, 6840, 2265),
+    label("Label1", "Box5", "Type de police", 1680, 240, 1560, L),
+    label("Label19", "Box5", "Type de police", 5100, 240, 1560, L),
+    label("Txt7", "Box5", "GC1", 120, 525, 540, L),
+    field("Val7", "Box5", "", "x_ht_gc1", 660, 495, 900, F),
+    field("Text1", "Box5", "ROMANS", "x_style_txt1", 1680, 495, 1560, F),
+    label("Txt8", "Box5", "GC2", 120, 870, 540, L),
+    field("Val8", "Box5", "", "x_ht_gc2", 660, 840, 900, F),
+    field("Text20", "Box5", "ROMANS", "x_style_txt2", 1680, 840, 1560, F),
+    label("Txt9", "Box5", "GC3", 120, 1215, 540, L),
+    field("Val9", "Box5", "", "x_ht_gc3", 660, 1185, 900, F),
+    field("Text21", "Box5", "ROMANS", "x_style_txt3", 1680, 1185, 1560, F),
+    label("Txt10", "Box5", "GC4", 120, 1560, 540, L),
+    field("Val10", "Box5", "", "x_ht_gc4", 660, 1530, 900, F),
+    field("Text22", "Box5", "ROMANS", "x_style_txt4", 1680, 1530, 1560, F),
+    label("Txt11", "Box5", "GC5", 3540, 525, 540, L),
+    field("Val11", "Box5", "", "x_ht_gc5", 4080, 495, 900, F),
+    field("Text23", "Box5", "ROMANS", "x_style_txt5", 5100, 495, 1560, F),
+    label("Txt12", "Box5", "GC7", 3540, 870, 540, L),
+    field("Val12", "Box5", "", "x_ht_gc7", 4080, 840, 900, F),
+    field("Text24", "Box5", "ROMANS", "x_style_txt7", 5100, 840, 1560, F),
+    label("Txt13", "Box5", "GC10", 3540, 1215, 540, L),
+    field("Val13", "Box5", "", "x_ht_gc10", 4080, 1185, 900, F),
+    field("Text25", "Box5", "ROMANS", "x_style_txt10", 5100, 1185, 1560, F),
+    label("Txt14", "Box5", "GC15", 3540, 1560, 540, L),
+    field("Val14", "Box5", "", "x_ht_gc15", 4080, 1530, 900, F),
+    field("Text26", "Box5", "ROMANS", "x_style_txt15", 5100, 1530, 1560, F),
+    check("Check3", "Box5", "Ecrire dans le layer courant", "x_chtlay", 120, 1935, 6540, L),
+    frame("Frame2", "", "Cotations (style GC_Cote)", 120, 2415, 6840, 780),
+    label("Label7", "Frame2", "Hauteur du texte", 120, 345, 1500, L),
+    field("Text4", "Frame2", "", "x_ht_gcc", 1620, 315, 720, F),
+    label("Label17", "Frame2", "Couleur", 2520, 345, 780, L),
+    field("Text19", "Frame2", "", "x_color_gcc", 3300, 315, 600, F),
+    label("Label2", "Frame2", "Type de police", 4080, 345, 1380, L),
+    field("Text2", "Frame2", "ROMANS", "x_style_cot", 5460, 315, 1260, F),
+});
+
+// Tab 2, "Texte": slant and compression; the command after a style is chosen.
+constexpr auto kTab2 = std::to_array<ControlRow>({
+    frame("Box3", "", "Texte", 120, 45, 3300, 1140),
+    label("Txt5", "Box3", "Inclinaison", 120, 330, 1260, L),
+    field("Val5", "Box3", "", "x_incli", 1440, 300, 720, F),
+    label("Txt5_1", "Box3", "degrés", 2280, 330, 900, L),
+    label("Txt6", "Box3", "Compression", 120, 720, 1260, L),
+    field("Val6", "Box3", "", "x_compress", 1440, 690, 720, F),
+    frame("Box4", "", "Texte après l'appel du style", 3540, 45, 3420, 1500),
+    option("Option4(5)", "Box4", "Texte sur une ligne", "x_chttt", 180, 300, 3120, L),
+    option("Option4(6)", "Box4", "Texte paragraphe", "x_chttt", 180, 585, 3120, L),
+    option("Option4(4)", "Box4", "Texte dynamique", "x_chttt", 180, 870, 3120, L, DesignState::Selected),
+    option("Option4(3)", "Box4", "Aucun", "x_chttt", 180, 1155, 3120, L),
+});
+
+// Tab 3, "Bureau d'ingénieurs": the office, one line each, town beside postcode.
+constexpr auto kTab3 = std::to_array<ControlRow>({
+    frame("Frame1", "", "Nom du bureau", 120, 45, 6840, 2250),
+    label("Etiquette1", "Frame1", "Nom", 120, 330, 1380, L),
+    field("Val15", "Frame1", "Nom du bureau", "x_nom_bureau", 1560, 300, 5100, F),
+    label("Label3", "Frame1", "Adresse", 120, 705, 1380, L),
+    field("Val16", "Frame1", "Adresse", "x_adresse_bureau", 1560, 675, 5100, F),
+    label("Label4", "Frame1", "Localité", 120, 1080, 1380, L),
+    field("Val17", "Frame1", "N postal", "x_code_bureau", 1560, 1050, 1200, F),
+    field("Val18", "Frame1", "Ville", "x_lieu_bureau", 2880, 1050, 3780, F),
+    label("Label5", "Frame1", "Téléphone", 120, 1455, 1380, L),
+    field("Val19", "Frame1", "No de téléphone", "x_tel_bureau", 1560, 1425, 2700, F),
+    label("Label8", "Frame1", "Fax", 120, 1830, 1380, L),
+    field("Val20", "Frame1", "No Fax", "x_fax_bureau", 1560, 1800, 2700, F),
+});
+
+// Tab 4, "Divers": the languages (French and German alone can be chosen) and
+// two display switches.
+constexpr auto kTab4 = std::to_array<ControlRow>({
+    frame("Frame8", "", "Langues", 120, 45, 4200, 1005),
+    option("Option5(0)", "Frame8", "Français", "x_lang", 240, 300, 1800, L, DesignState::Selected),
+    option("Option5(2)", "Frame8", "Allemand", "x_lang", 2160, 300, 1800, L),
+    option("Option5(3)", "Frame8", "Italien", "x_lang", 240, 615, 1800, L, DesignState::Disabled),
+    option("Option5(1)", "Frame8", "Anglais", "x_lang", 2160, 615, 1800, L, DesignState::Disabled),
+    check("Check1", "", "Affichage des slides lors du chargement des modules Morlak", "affilogoKVO", 120, 1200, 6840,
+          L),
+    check("Check2", "", "Affichage du profil utilisateur du dessin", "AffiProfil", 120, 1560, 6840, L),
+});
+
+// Tab 5, "Programmes": one line per program, Acrobat Reader before the
+// personal program.
+constexpr int B = 330; // height of a program button
+constexpr auto kTab5 = std::to_array<ControlRow>({
+    frame("Frame10", "", "Emplacement des programmes", 120, 45, 6840, 2625),
+    button("Command1", "Frame10", "Explorer", 120, 270, 1800, B),
+    path("Text11", "Frame10", "Path_Win1", 2040, 285, 4620, F),
+    button("Command2", "Frame10", "Calculatrice", 120, 645, 1800, B),
+    path("Text12", "Frame10", "Path_Win2", 2040, 660, 4620, F),
+    button("Command3", "Frame10", "Editeur WordPad", 120, 1020, 1800, B),
+    path("Text13", "Frame10", "Path_Win3", 2040, 1035, 4620, F),
+    button("Command4", "Frame10", "Bloc-Notes", 120, 1395, 1800, B),
+    path("Text14", "Frame10", "Path_Win4", 2040, 1410, 4620, F),
+    button("Command6", "Frame10", "Acrobat Reader", 120, 1770, 1800, B),
+    path("Text18", "Frame10", "Path_Win6", 2040, 1785, 4620, F),
+    button("Command5", "Frame10", "Personnel", 120, 2145, 1800, B),
+    path("Text15", "Frame10", "Path_Win5", 2040, 2160, 4620, F),
+    button("Command8", "", "variable", 5760, 2805, 1200, 375),
+});
+
+struct TabTable {
+    const char* caption; // at design time, UTF-8
+    std::span<const ControlRow> controls;
+};
+
+// The six tabs of SSTab1, in the order of their numbers.
+constexpr auto kTabs = std::to_array<TabTable>({
+    {"Début", kTab0},
+    {"Style", kTab1},
+    {"Texte", kTab2},
+    {"Bureau d'ingénieurs", kTab3},
+    {"Divers", kTab4},
+    {"Programmes", kTab5},
+});
+
+// The four buttons below the tabs.
+constexpr auto kButtons = std::to_array<ControlRow>({
+    button("Command7", "", "Choisir", 117, 3978, 975, 375),
+    button("cmdAbout", "", "A propos", 1170, 3978, 975, 375),
+    button("cmdOK", "", "OK", 3978, 3978, 975, 375),
+    button("CmdCancel", "", "Annuler", 5031, 3978, 975, 375),
+});
+
+// The tab order over all tabs: indexes 0 to 70, then SSTab1 (81) and
+// Command8 (117).
+constexpr auto kTabOrder = std::to_array<const char*>({
+    "cmdOK",                                                                 // 0
+    "Val4", "Val1", "Val0", "Val2", "Val3",                                  // 1 to 5
+    "Option1(0)", "Option1(1)", "Option1(2)",                                // 6 to 8
+    "Option2(0)", "Option2(1)", "Option2(2)",                                // 9 to 11
+    "Text5", "Text6", "Text7", "Text8", "Text9", "Text10",                   // 12 to 17
+    "Command7", "cmdAbout", "CmdCancel",                                     // 18 to 20
+    "Val7", "Text1", "Val8", "Text20", "Val9", "Text21", "Val10", "Text22",  // 21 to 28
+    "Val11", "Text23", "Val12", "Text24", "Val13", "Text25", "Val14", "Text26", // 29 to 36
+    "Check3", "Text4", "Text19", "Text2",                                    // 37 to 40
+    "Val5", "Val6", "Option4(5)", "Option4(6)", "Option4(4)", "Option4(3)",  // 41 to 46
+    "Val15", "Val16", "Val17", "Val18", "Val19", "Val20",                    // 47 to 52
+    "Option5(0)", "Option5(1)", "Option5(2)", "Option5(3)", "Check1", "Check2", // 53 to 58
+    "Command1", "Text11", "Command2", "Text12", "Command3", "Text13",        // 59 to 64
+    "Command4", "Text14", "Command6", "Text18", "Command5", "Text15",        // 65 to 70
+    "SSTab1",                                                                // 81
+    "Command8",                                                              // 117
+});
+static_assert(kTabOrder.size() == 73);
+
+// A click moves between empty and ticked; the grey state comes from a stored
+// value alone.
+class FlagCheckBox : public QCheckBox {
+public:
+    using QCheckBox::QCheckBox;
+
+protected:
+    void nextCheckState() override { setCheckState(checkState() == Qt::Checked ? Qt::Unchecked : Qt::Checked); }
+};
+
+QWidget* createControl(const ControlRow& row, QWidget* parent, MainModule& module) {
+    const QString caption = QString::fromUtf8(row.caption);
+    switch (row.kind) {
+    case K::Frame: return new QGroupBox(caption, parent);
+    case K::Label: {
+        auto* text = new QLabel(caption, parent);
+        text->setTextFormat(Qt::PlainText);
+        return text;
+    }
+    case K::RuleText: {
+        const FieldRule* rule = FindFieldRule(GeneralFieldRules(), QString::fromLatin1(row.name));
+        Q_ASSERT(rule);
+        auto* text = new RuleField(*rule, module, parent);
+        text->setText(caption);
+        if (rule->kind != RuleKind::TextRule) text->setAlignment(Qt::AlignCenter);
+        return text;
+    }
+    case K::PathText: return new QLineEdit(caption, parent);
+    case K::Option: return new QRadioButton(caption, parent);
+    case K::Check: {
+        auto* box = new FlagCheckBox(caption, parent);
+        box->setTristate(true);
+        return box;
+    }
+    case K::Button: return new QPushButton(caption, parent);
+    case K::Shape: {
+        auto* rectangle = new QFrame(parent);
+        rectangle->setFrameStyle(QFrame::Box | QFrame::Plain);
+        return rectangle;
+    }
+    }
+    return nullptr;
+}
+
+void buildTable(std::span<const ControlRow> table, QWidget* base, GeneralControls& controls, MainModule& module) {
+    for (const ControlRow& row : table) {
+        QWidget* parent = *row.parent ? controls.byName.value(QLatin1String(row.parent)) : base;
+        QWidget* control = createControl(row, parent, module);
+        control->setObjectName(QLatin1String(row.name));
+        PlaceInTwips(control, row.left, row.top, row.width, row.height);
+        if (row.state == DesignState::Selected) static_cast<QRadioButton*>(control)->setChecked(true);
+        if (row.state == DesignState::Disabled) control->setEnabled(false);
+        controls.byName.insert(control->objectName(), control);
+    }
+}
+
+} // namespace
+
+const ControlRow* FindGeneralControl(QAnyStringView name) {
+    for (const TabTable& tab : kTabs)
+        for (const ControlRow& row : tab.controls)
+            if (QAnyStringView::equal(name, QLatin1String(row.name))) return &row;
+    for (const ControlRow& row : kButtons)
+        if (QAnyStringView::equal(name, QLatin1String(row.name))) return &row;
+    return nullptr;
+}
+
+GeneralControls BuildGeneralControls(QWidget* form, MainModule& module) {
+    GeneralControls controls;
+    controls.tabs = new QTabWidget(form);
+    controls.tabs->setObjectName(QStringLiteral("SSTab1"));
+    controls.tabs->setUsesScrollButtons(false);
+    PlaceInTwips(controls.tabs, 117, 117, 7137, 3887);
+    controls.byName.insert(QStringLiteral("SSTab1"), controls.tabs);
+
+    for (const TabTable& tab : kTabs) {
+        auto* page = new QWidget;
+        controls.tabs->addTab(page, QString::fromUtf8(tab.caption));
+        buildTable(tab.controls, page, controls, module);
+    }
+    buildTable(kButtons, form, controls, module);
+
+    auto* ok = static_cast<QPushButton*>(controls.byName.value(QStringLiteral("cmdOK")));
+    ok->setDefault(true);
+
+    for (std::size_t i = 1; i < kTabOrder.size(); ++i)
+        QWidget::setTabOrder(controls.byName.value(QLatin1String(kTabOrder[i - 1])),
+                             controls.byName.value(QLatin1String(kTabOrder[i])));
+    return controls;
+}
+
+void SetCaption(QWidget* control, const QString& caption) {
+    if (auto* frame = qobject_cast<QGroupBox*>(control)) frame->setTitle(caption);
+    else if (auto* text = qobject_cast<QLabel*>(control)) text->setText(caption);
+    else if (auto* clickable = qobject_cast<QAbstractButton*>(control)) clickable->setText(caption);
+}
+
+} // namespace brimo

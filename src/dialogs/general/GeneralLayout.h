@@ -1,0 +1,55 @@
+#pragma once
+// The controls of CGeneralForm at their design state: one table per tab and
+// one for the buttons below the tabs, walked by one builder; and the tab
+// order over all of them.
+
+#include <QAnyStringView>
+#include <QHash>
+#include <QString>
+
+class QTabWidget;
+class QWidget;
+
+namespace brimo {
+
+class MainModule;
+
+enum class ControlKind {
+    Frame,    // a group box
+    Label,
+    RuleText, // a text field with a leaving rule (FieldRules)
+    PathText, // a program location: a free text field
+    Option,   // an option button; the buttons of one frame form a group
+    Check,    // a check box with three states
+    Button,
+    Shape,    // a plain rectangle
+};
+
+enum class DesignState { Plain, Selected, Disabled };
+
+struct ControlRow {
+    const char* name;
+    ControlKind kind;
+    const char* parent;  // a frame of the same table; "" for the tab (or the form)
+    const char* caption; // caption or text at design time, UTF-8
+    const char* key;     // the variable of GeneralVariables shown; "" for none
+    int left, top, width, height; // twips inside the parent
+    DesignState state;
+};
+
+// The row of a control of any table, or nullptr.
+const ControlRow* FindGeneralControl(QAnyStringView name);
+
+struct GeneralControls {
+    QTabWidget* tabs = nullptr;       // SSTab1
+    QHash<QString, QWidget*> byName;  // every control of the tables, SSTab1 too
+};
+
+// Builds SSTab1 and every control on `form`, at their design state, and sets
+// the tab order.
+GeneralControls BuildGeneralControls(QWidget* form, MainModule& module);
+
+// Sets a control's caption: a frame's title, a label's or a button's text.
+void SetCaption(QWidget* control, const QString& caption);
+
+} // namespace brimo

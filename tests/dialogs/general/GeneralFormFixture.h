@@ -1,0 +1,55 @@
+#pragma once
+// A scratch prefix with zorel.ini, legend files and Brimo.ini, a MainModule
+// loaded as the program's entry loads it, and CGeneralForm opened on it.
+// Ends, message boxes and legend questions are recorded, not acted on.
+
+#include "app/MainModule.h"
+#include "dialogs/general/CGeneralForm.h"
+#include "platform/WindowServices.h"
+#include "support/ScratchPrefix.h"
+
+#include <gtest/gtest.h>
+
+#include <QMap>
+
+#include <memory>
+
+namespace brimo::test {
+
+class GeneralFormTest : public ::testing::Test {
+protected:
+    void SetUp() override;
+    void TearDown() override;
+
+    // A legend file of 174 lines, line n reading "<code> <n>" unless `texts` holds it.
+    void writeLegends(const QString& code, const QMap<int, QString>& texts = {});
+    void removeLegends(const QString& code);
+    // The text that line n of the test files gives.
+    static QString legend(const QString& code, int n) { return code + QLatin1Char(' ') + QString::number(n); }
+
+    void writeBrimoIni(const QByteArray& bytes) { prefix.write(kIniPath, bytes); }
+    QByteArray lisp() const { return prefix.read(kLispPath); }
+    QByteArray ini() const { return prefix.read(kIniPath); }
+
+    // Loads the three stores in the order of the program's entry, then opens the form.
+    CGeneralForm* open();
+    template <class Widget> Widget* find(const QString& name) const {
+        Widget* widget = form->findChild<Widget*>(name);
+        EXPECT_NE(widget, nullptr) << name.toStdString();
+        return widget;
+    }
+    // The caption of a control: a frame's title, a label's or a button's text.
+    QString captionOf(const QString& name) const;
+
+    static inline const QString kLispPath = QStringLiteral("C:\\Zorel\\Var\\jo\\Brimo_Gene.lsp");
+    static inline const QString kIniPath = QStringLiteral("C:\\Zorel\\Var\\jo\\Brimo.ini");
+
+    ScratchPrefix prefix;
+    std::unique_ptr<MainModule> module;
+    CGeneralForm* form = nullptr;
+    QList<int> ends;               // statuses of explicit ends
+    QList<MessageBoxCall> messages; // message boxes shown
+    int legendQuestions = 0;
+};
+
+} // namespace brimo::test
