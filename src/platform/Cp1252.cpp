@@ -27,18 +27,6 @@ struct EncodeTable {
     }
 };
 
-struct FoldTable {
-    std::array<unsigned char, 256> lower{};
-    FoldTable() {
-        static const EncodeTable enc;
-        for (int b = 0; b < 256; ++b) {
-            const QChar lowered = QChar(codePointOf(static_cast<unsigned char>(b))).toLower();
-            const unsigned char back = enc.bytes[lowered.unicode()];
-            lower[b] = (back == '?' && lowered != QChar('?')) ? static_cast<unsigned char>(b) : back;
-        }
-    }
-};
-
 const EncodeTable& encodeTable() {
     static const EncodeTable table;
     return table;
@@ -68,10 +56,5 @@ QString fromCp1252(const char* data, qsizetype size) {
 }
 
 QString fromCp1252(const QByteArray& bytes) { return fromCp1252(bytes.constData(), bytes.size()); }
-
-unsigned char foldCp1252(unsigned char byte) {
-    static const FoldTable table;
-    return table.lower[byte];
-}
 
 } // namespace brimo

@@ -1,33 +1,90 @@
 #include "platform/ProfileDocument.h"
 
-#include "platform/Cp1252.h"
-
+#include <algorithm>
 #include <cstring>
 
 namespace brimo {
 
-bool isProfileBlank(unsigned char c) {
-    return c == ' ' || (c >= 0x09 && c <= 0x0D) || c == 0x1A || c == 0xA0;
-}
+bool isProfileBlank(unsigned char c) { return c == ' ' || (c >= 0x09 && c <= 0x0D) || c == 0x1A; }
 
 namespace {
 
+bool isLineEnd(char c) { return c == '\n' || c == '\r'; }
+
+unsigned char foldAscii(unsigned char c) { return c >= 'A' && c <= 'Z' ? static_cast<unsigned char>(c + 32) : c; }
+
+// The end of the line that starts at or before `from`: its first CR or LF, or
+// the end of the bytes. Two memchr passes are faster than one loop; they go
+// by blocks so that a file whose lines end in CR alone is not read to its end
+// for every line.
+qsizetype lineEndOf(QByteArrayView bytes, qsizetype from) {
+    constexpr qsizetype kBlock = 4096;
+    const char* data = bytes.data();
+    const qsizetype size = bytes.size();
+    for (qsizetype pos = from; pos < size; pos += kBlock) {
+        const qsizetype blockEnd = std::min(size, pos + kBlock);
+        const void* lf = std::memchr(data + pos, '\n', static_cast<size_t>(blockEnd - pos));
+        const qsizetype lfAt = lf ? static_cast<const char*>(lf) - data : blockEnd;
+        if (const void* cr = std::memchr(data + pos, '\r', static_cast<size_t>(lfAt - pos)))
+            return static_cast<const char*>(cr) - data;
+        if (lf) return lfAt;
+    }
+    return size;
+}
+
+// The first byte of the next line: past one CR LF, CR or LF at `lineEnd`.
+qsizetype nextLineOf(QByteArrayView bytes, qsizetype lineEnd) {
+    if (lineEnd >= bytes.size()) return bytes.size();
+    if (bytes[lineEnd] == '\r' && lineEnd + 1 < bytes.size() && bytes[lineEnd + 1] == '\n') return lineEnd + 2;
+    return lineEnd + 1;
+}
+
+void trimRange(QByteArrayView bytes, qsizetype& b, qsizetype& e) {
+    while (b < e && isProfileBlank(static_cast<unsigned char>(bytes[b]))) ++b;
+    while (e > b && isProfileBlank(static_cast<unsigned char>(bytes[e - 1]))) --e;
+}
+
 QByteArrayView trimmed(QByteArrayView text) {
     qsizetype b = 0, e = text.size();
-    while (b < e && isProfileBlank(static_cast<unsigned char>(text[b]))) ++b;
-    while (e > b && isProfileBlank(static_cast<unsigned char>(text[e - 1]))) --e;
+    trimRange(text, b, e);
     return text.sliced(b, e - b);
 }
 
-qsizetype lineEndOf(const QByteArray& bytes, qsizetype from) {
-    const void* hit = std::memchr(bytes.constData() + from, '\n', static_cast<size_t>(bytes.size() - from));
-    return hit ? static_cast<const char*>(hit) - bytes.constData() : bytes.size();
+// A name or a value ends at a NUL byte.
+qsizetype untilNul(QByteArrayView bytes, qsizetype b, qsizetype e) {
+    const void* nul = std::memchr(bytes.data() + b, '\0', static_cast<size_t>(e - b));
+    return nul ? static_cast<const char*>(nul) - bytes.data() : e;
 }
 
-// The content of a line without its surrounding blanks (CR and LF included).
-void trimRange(const QByteArray& bytes, qsizetype& b, qsizetype& e) {
-    while (b < e && isProfileBlank(static_cast<unsigned char>(bytes[b]))) ++b;
-    while (e > b && isProfileBlank(static_cast<unsigned char>(bytes[e - 1]))) --e;
+// The parts of one line of a section's body, as offsets into `bytes`.
+struct LineParts {
+    bool blank = true;
+    qsizetype nameBegin = 0, nameEnd = 0;
+    qsizetype eq = -1;                        // the '=', or -1
+    qsizetype valueBegin = -1, valueEnd = -1; // without blanks; cut at a NUL
+    qsizetype contentEnd = 0;                 // the last byte that is no blank, plus one
+};
+
+LineParts partsOf(QByteArrayView bytes, qsizetype lineBegin, qsizetype lineEnd) {
+    LineParts p;
+    qsizetype b = lineBegin, e = lineEnd;
+    trimRange(bytes, b, e);
+    if (b >= e) return p;
+    p.blank = false;
+    p.contentEnd = e;
+    p.nameBegin = b;
+    const void* eq = std::memchr(bytes.data() + b, '=', static_cast<size_t>(e - b));
+    qsizetype nameEnd = e;
+    if (eq) {
+        p.eq = static_cast<const char*>(eq) - bytes.data();
+        nameEnd = p.eq;
+        while (nameEnd > b && isProfileBlank(static_cast<unsigned char>(bytes[nameEnd - 1]))) --nameEnd;
+        p.valueBegin = p.eq + 1;
+        while (p.valueBegin < e && isProfileBlank(static_cast<unsigned char>(bytes[p.valueBegin]))) ++p.valueBegin;
+        p.valueEnd = untilNul(bytes, p.valueBegin, e);
+    }
+    p.nameEnd = untilNul(bytes, b, nameEnd);
+    return p;
 }
 
 } // namespace
@@ -36,7 +93,7 @@ bool profileNamesEqual(QByteArrayView stored, QByteArrayView wanted) {
     wanted = trimmed(wanted);
     if (stored.size() != wanted.size()) return false;
     for (qsizetype i = 0; i < stored.size(); ++i)
-        if (foldCp1252(static_cast<unsigned char>(stored[i])) != foldCp1252(static_cast<unsigned char>(wanted[i])))
+        if (foldAscii(static_cast<unsigned char>(stored[i])) != foldAscii(static_cast<unsigned char>(wanted[i])))
             return false;
     return true;
 }
@@ -49,28 +106,32 @@ ProfileDocument::ProfileDocument(QByteArray bytes) : bytes_(std::move(bytes)) {}
 void ProfileDocument::indexSections() const {
     if (indexed_) return;
     sections_.clear();
-    const char* data = bytes_.constData();
-    const qsizetype size = bytes_.size();
+    const QByteArrayView bytes(bytes_);
+    const char* data = bytes.data();
+    const qsizetype size = bytes.size();
     qsizetype pos = 0;
     while (pos < size) {
         const void* hit = std::memchr(data + pos, '[', static_cast<size_t>(size - pos));
         if (!hit) break;
         const qsizetype bracket = static_cast<const char*>(hit) - data;
         qsizetype lineBegin = bracket;
-        while (lineBegin > 0 && data[lineBegin - 1] != '\n' && isProfileBlank(static_cast<unsigned char>(data[lineBegin - 1])))
+        while (lineBegin > 0 && !isLineEnd(data[lineBegin - 1]) &&
+               isProfileBlank(static_cast<unsigned char>(data[lineBegin - 1])))
             --lineBegin;
-        const qsizetype lineEnd = lineEndOf(bytes_, bracket);
-        pos = lineEnd + 1;
-        if (lineBegin > 0 && data[lineBegin - 1] != '\n') continue; // a '[' inside a line
+        const qsizetype lineEnd = lineEndOf(bytes, bracket);
+        pos = nextLineOf(bytes, lineEnd);
+        if (lineBegin > 0 && !isLineEnd(data[lineBegin - 1])) continue; // a '[' inside a line
         qsizetype b = bracket, e = lineEnd;
-        trimRange(bytes_, b, e);
+        trimRange(bytes, b, e);
         const char* close = static_cast<const char*>(memrchr(data + b, ']', static_cast<size_t>(e - b)));
         if (!close) continue;
         if (!sections_.empty()) sections_.back().bodyEnd = lineBegin;
         Section s;
         s.nameBegin = b + 1;
         s.nameEnd = close - data;
-        s.bodyBegin = lineEnd < size ? lineEnd + 1 : size;
+        trimRange(bytes, s.nameBegin, s.nameEnd);
+        s.nameEnd = untilNul(bytes, s.nameBegin, s.nameEnd);
+        s.bodyBegin = pos;
         s.headerHasLineEnd = lineEnd < size;
         s.bodyEnd = size;
         sections_.push_back(s);
@@ -96,27 +157,13 @@ const ProfileDocument::Section* ProfileDocument::findSection(QByteArrayView name
 
 std::vector<ProfileDocument::Key> ProfileDocument::keysOf(const Section& section) const {
     std::vector<Key> keys;
+    const QByteArrayView bytes(bytes_);
     qsizetype lineBegin = section.bodyBegin;
     while (lineBegin < section.bodyEnd) {
-        const qsizetype lineEnd = lineEndOf(bytes_, lineBegin);
-        qsizetype b = lineBegin, e = lineEnd;
-        trimRange(bytes_, b, e);
-        if (b < e) {
-            Key k;
-            k.nameBegin = b;
-            k.nameEnd = e;
-            const char* eq = static_cast<const char*>(std::memchr(bytes_.constData() + b, '=', static_cast<size_t>(e - b)));
-            if (eq) {
-                const qsizetype at = eq - bytes_.constData();
-                k.nameEnd = at;
-                while (k.nameEnd > b && isProfileBlank(static_cast<unsigned char>(bytes_[k.nameEnd - 1]))) --k.nameEnd;
-                k.valueBegin = at + 1;
-                k.valueEnd = e;
-                while (k.valueBegin < e && isProfileBlank(static_cast<unsigned char>(bytes_[k.valueBegin]))) ++k.valueBegin;
-            }
-            keys.push_back(k);
-        }
-        lineBegin = lineEnd + 1;
+        const qsizetype lineEnd = lineEndOf(bytes, lineBegin);
+        const LineParts p = partsOf(bytes, lineBegin, lineEnd);
+        if (!p.blank) keys.push_back({p.nameBegin, p.nameEnd, p.valueBegin, p.valueEnd});
+        lineBegin = nextLineOf(bytes, lineEnd);
     }
     return keys;
 }
@@ -153,11 +200,12 @@ bool ProfileDocument::setString(QByteArrayView section, QByteArrayView key, QByt
 }
 
 bool ProfileDocument::setStrings(QByteArrayView sectionName, const QList<KeyValue>& keyValues) {
-    if (trimmed(sectionName).isEmpty() || keyValues.isEmpty()) return false;
+    sectionName = trimmed(sectionName);
+    if (sectionName.isEmpty() || keyValues.isEmpty()) return false;
     const Section* found = findSection(sectionName);
 
-    // The section's body is small: edit it as a list of lines, then splice it
-    // back into the file in one copy.
+    // The section's body is small: edit it as a list of lines, each with its
+    // own line end, then splice it back into the file in one copy.
     QByteArray header;
     qsizetype spliceBegin, spliceEnd;
     QList<QByteArray> lines;
@@ -165,56 +213,45 @@ bool ProfileDocument::setStrings(QByteArrayView sectionName, const QList<KeyValu
         spliceBegin = found->bodyBegin;
         spliceEnd = found->bodyEnd;
         if (!found->headerHasLineEnd) header = "\r\n";
+        const QByteArrayView bytes(bytes_);
         qsizetype lineBegin = spliceBegin;
         while (lineBegin < spliceEnd) {
-            const qsizetype lineEnd = std::min(lineEndOf(bytes_, lineBegin), spliceEnd);
-            const qsizetype next = lineEnd < spliceEnd ? lineEnd + 1 : spliceEnd;
+            const qsizetype next = std::min(nextLineOf(bytes, lineEndOf(bytes, lineBegin)), spliceEnd);
             lines.append(bytes_.sliced(lineBegin, next - lineBegin));
             lineBegin = next;
         }
     } else {
         spliceBegin = spliceEnd = bytes_.size();
-        if (!bytes_.isEmpty()) header = bytes_.endsWith('\n') ? "\r\n" : "\r\n\r\n";
-        QByteArrayView name = sectionName;
-        while (!name.isEmpty() && isProfileBlank(static_cast<unsigned char>(name[0]))) name = name.sliced(1);
-        header += '[' + name.toByteArray() + "]\r\n";
+        if (!bytes_.isEmpty() && !isLineEnd(bytes_.back())) header = "\r\n";
+        header += '[' + sectionName.toByteArray() + "]\r\n";
     }
 
     bool changed = !found;
     for (const KeyValue& kv : keyValues) {
-        QByteArrayView value = kv.second;
-        while (!value.isEmpty() && isProfileBlank(static_cast<unsigned char>(value[0]))) value = value.sliced(1);
+        const QByteArrayView key = trimmed(kv.first);
+        const QByteArrayView value = trimmed(kv.second);
 
         qsizetype lastContent = -1;
         bool replaced = false;
         for (qsizetype i = 0; i < lines.size() && !replaced; ++i) {
             const QByteArray& line = lines[i];
-            qsizetype b = 0, e = line.size();
-            trimRange(line, b, e);
-            if (b >= e) continue;
+            const LineParts p = partsOf(line, 0, lineEndOf(line, 0));
+            if (p.blank) continue;
             lastContent = i;
-            const qsizetype eq = line.indexOf('=', b);
-            const bool hasValue = eq >= 0 && eq < e;
-            qsizetype nameEnd = hasValue ? eq : e;
-            while (nameEnd > b && isProfileBlank(static_cast<unsigned char>(line[nameEnd - 1]))) --nameEnd;
-            if (!profileNamesEqual(QByteArrayView(line).sliced(b, nameEnd - b), kv.first)) continue;
+            if (!profileNamesEqual(QByteArrayView(line).sliced(p.nameBegin, p.nameEnd - p.nameBegin), key)) continue;
             replaced = true;
-            if (hasValue) {
-                qsizetype vb = eq + 1;
-                while (vb < e && isProfileBlank(static_cast<unsigned char>(line[vb]))) ++vb;
-                if (QByteArrayView(line).sliced(vb, e - vb) == value) break;
-                lines[i] = line.first(vb) + value.toByteArray() + line.sliced(e);
+            if (p.eq >= 0) {
+                if (QByteArrayView(line).sliced(p.valueBegin, p.valueEnd - p.valueBegin) == value) break;
+                lines[i] = line.first(p.valueBegin) + value.toByteArray() + line.sliced(p.contentEnd);
             } else {
-                lines[i] = line.first(e) + '=' + value.toByteArray() + line.sliced(e);
+                lines[i] = line.first(p.contentEnd) + '=' + value.toByteArray() + line.sliced(p.contentEnd);
             }
             changed = true;
         }
         if (replaced) continue;
 
-        QByteArrayView keyName = kv.first;
-        while (!keyName.isEmpty() && isProfileBlank(static_cast<unsigned char>(keyName[0]))) keyName = keyName.sliced(1);
-        const QByteArray newLine = keyName.toByteArray() + '=' + value.toByteArray() + "\r\n";
-        if (lastContent >= 0 && !lines[lastContent].endsWith('\n')) lines[lastContent] += "\r\n";
+        const QByteArray newLine = key.toByteArray() + '=' + value.toByteArray() + "\r\n";
+        if (lastContent >= 0 && !isLineEnd(lines[lastContent].back())) lines[lastContent] += "\r\n";
         lines.insert(lastContent + 1, newLine);
         changed = true;
     }

@@ -1,15 +1,22 @@
 #pragma once
 // A profile file (zorel.ini, Brimo.ini) held in memory as its bytes, with the
-// reading and writing contract of the Win32 profile functions:
-//  - section and key names match without regard to case, after the blanks
-//    around them are dropped; the first matching section, and in it the
-//    first matching key, wins; keys before any section are never found;
-//  - a value loses the blanks around it and one pair of surrounding quotes,
-//    and is cut by the caller's buffer (255 characters give at most 254);
+// reading and writing contract of the Win32 profile functions as Wine has them:
+//  - a line ends at CR, at LF or at CR LF; blanks are space, tab, VT, FF and
+//    the DOS end-of-file byte 0x1A (not the no-break space 0xA0);
+//  - a section is a line "[name]": the name lies between the '[' and the last
+//    ']' of the line, without the blanks around it;
+//  - section and key names match without regard to the case of the letters
+//    A-Z (other letters must match exactly), after the blanks around them are
+//    dropped; the first matching section, and in it the first matching key,
+//    wins; keys before any section are never found;
+//  - a NUL byte in a line ends the name or the value it stands in;
+//  - a value loses the blanks around it and one pair of surrounding quotes
+//    (both " or both '), and is cut by the caller's buffer (255 characters
+//    give at most 254);
 //  - a write replaces the value of an existing key in its line, or adds the
 //    key behind the last line of its section, or adds the section at the end;
-//    every other byte of the file stays as it was; new lines end in CR LF.
-// Lines end at LF; a CR is a blank like any other, as the platform reads it.
+//    names and values are written without the blanks around them; every other
+//    byte of the file stays as it was; new lines end in CR LF.
 
 #include <QByteArray>
 #include <QByteArrayView>

@@ -3,11 +3,11 @@
 #include <QByteArray>
 #include <QLocale>
 
-#include <cerrno>
 #include <cfloat>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
+#include <cstring>
 
 namespace brimo {
 
@@ -20,94 +20,182 @@ QString RegionalGroupSymbol() { return QLocale::system().groupSeparator(); }
 
 namespace {
 
-bool isBlank(QChar c) { return c == QLatin1Char(' ') || c == QLatin1Char('\t') || c == QChar(0x00A0); }
+bool isBlank(QChar c) { return c.isSpace(); }
+bool isDigit(QChar c) { return c.unicode() >= '0' && c.unicode() <= '9'; }
+bool isSpaceLike(QChar c) { return c == QChar(0x00A0) || c == QChar(0x202F); }
+
+// The regional symbols as the scanner uses them.
+struct Symbols {
+    QChar decimal;
+    QChar group; // null when there is none
+    // A no-break space groups digits: a narrow no-break space and a space
+    // do too, as a user types them.
+    bool groupIsSpace = false;
+
+    Symbols() : decimal(RegionalDecimalSymbol()) {
+        const QString g = RegionalGroupSymbol();
+        if (!g.isEmpty() && g.at(0) != decimal) group = g.at(0);
+        groupIsSpace = isSpaceLike(group);
+    }
+    bool isGroup(QChar c) const {
+        if (group.isNull()) return false;
+        if (groupIsSpace) return isSpaceLike(c) || c == QLatin1Char(' ');
+        return c == group;
+    }
+};
 
 // Reads the text into a C-locale number text; empty when it is no number.
+//
+// The reading follows oleaut32: blanks and a sign (at most one '+' and one
+// '-') may come before the number; grouping symbols are ignored anywhere
+// after its first digit or its decimal symbol, but may not come before them;
+// the exponent's sign may be repeated; blanks and grouping symbols may follow
+// the number. Refused, where oleaut32 takes them: currency symbols,
+// parentheses, signs after the number, &H and &O numbers, and digits after a
+// complete exponent.
 QByteArray canonicalNumber(const QString& text) {
-    const QChar decimal = RegionalDecimalSymbol();
-    QString group = RegionalGroupSymbol();
-    // A narrow no-break space and a no-break space are one symbol to a user.
-    const bool groupIsSpace = group == QString(QChar(0x202F)) || group == QString(QChar(0x00A0));
-
-    qsizetype i = 0;
+    const Symbols symbols;
     const qsizetype n = text.size();
-    while (i < n && isBlank(text.at(i))) ++i;
+    qsizetype i = 0;
 
-    QByteArray out;
-    if (i < n && (text.at(i) == QLatin1Char('+') || text.at(i) == QLatin1Char('-'))) {
-        if (text.at(i) == QLatin1Char('-')) out += '-';
-        ++i;
-    }
-    bool digits = false;
-    auto isGroup = [&](qsizetype at) {
-        if (group.isEmpty() || at >= n) return false;
-        if (groupIsSpace && (text.at(at) == QChar(0x202F) || text.at(at) == QChar(0x00A0))) return true;
-        return text.mid(at, group.size()) == group && text.at(at) != decimal;
-    };
+    bool plus = false, minus = false, decimalSeen = false;
     while (i < n) {
-        if (text.at(i).isDigit() && text.at(i).unicode() < 128) {
-            out += char(text.at(i).unicode());
-            digits = true;
+        const QChar c = text.at(i);
+        if (c == symbols.decimal) {
+            decimalSeen = true;
             ++i;
-        } else if (digits && isGroup(i) && i + group.size() < n && text.at(i + group.size()).isDigit()) {
-            i += group.size();
+            break;
+        }
+        if (isBlank(c)) {
+            ++i;
+        } else if (symbols.isGroup(c)) {
+            return {};
+        } else if (c == QLatin1Char('+') && !plus) {
+            plus = true;
+            ++i;
+        } else if (c == QLatin1Char('-') && !minus) {
+            minus = true;
+            ++i;
         } else {
             break;
         }
     }
-    if (i < n && text.at(i) == decimal) {
-        out += '.';
-        ++i;
-        while (i < n && text.at(i).isDigit() && text.at(i).unicode() < 128) {
-            out += char(text.at(i).unicode());
+
+    QByteArray out = minus ? "-" : "";
+    if (decimalSeen) out += '.';
+    bool digits = false;
+    enum { NoExponent, ExponentSign, ExponentDone } exponent = NoExponent;
+    bool negativeExponent = false;
+    QByteArray exponentDigits;
+    while (i < n) {
+        const QChar c = text.at(i);
+        if (isDigit(c)) {
+            if (exponent == ExponentDone) return {};
+            if (exponent == ExponentSign) {
+                while (i < n && isDigit(text.at(i))) exponentDigits += char(text.at(i++).unicode());
+                exponent = ExponentDone;
+                continue;
+            }
+            out += char(c.unicode());
             digits = true;
-            ++i;
+        } else if (symbols.isGroup(c)) {
+            // ignored
+        } else if (c == symbols.decimal && !decimalSeen && exponent == NoExponent) {
+            decimalSeen = true;
+            out += '.';
+        } else if ((c == QLatin1Char('e') || c == QLatin1Char('E')) && exponent == NoExponent) {
+            exponent = ExponentSign;
+        } else if (exponent == ExponentSign && (c == QLatin1Char('+') || c == QLatin1Char('-'))) {
+            if (c == QLatin1Char('-')) negativeExponent = true;
+        } else {
+            break;
         }
+        ++i;
     }
-    if (!digits) return {};
-    if (i < n && (text.at(i) == QLatin1Char('e') || text.at(i) == QLatin1Char('E'))) {
-        qsizetype j = i + 1;
-        QByteArray exponent = "e";
-        if (j < n && (text.at(j) == QLatin1Char('+') || text.at(j) == QLatin1Char('-'))) {
-            exponent += char(text.at(j).unicode());
-            ++j;
-        }
-        bool expDigits = false;
-        while (j < n && text.at(j).isDigit() && text.at(j).unicode() < 128) {
-            exponent += char(text.at(j).unicode());
-            expDigits = true;
-            ++j;
-        }
-        if (!expDigits) return {};
-        out += exponent;
-        i = j;
-    }
-    while (i < n && isBlank(text.at(i))) ++i;
+    if (!digits || exponent == ExponentSign) return {};
+    while (i < n && (isBlank(text.at(i)) || symbols.isGroup(text.at(i)))) ++i;
     if (i != n) return {};
+    if (exponent == ExponentDone) out += (negativeExponent ? "e-" : "e+") + exponentDigits;
     return out;
 }
 
-Conversion convert(const QString& text, double limit) {
+// The smallest single above zero; a smaller number does not fit a single.
+constexpr double kSmallestSingle = 1.40129846432481707e-45;
+
+Conversion convert(const QString& text, bool single) {
     const QByteArray canonical = canonicalNumber(text);
     if (canonical.isEmpty()) return {0.0, TypeMismatch};
-    errno = 0;
     const double value = std::strtod(canonical.constData(), nullptr);
-    if (std::isinf(value) || std::fabs(value) > limit) return {value, Overflow};
+    if (std::isinf(value)) return {value, Overflow};
+    if (single && (std::isinf(static_cast<float>(value)) || (value != 0 && std::fabs(value) < kSmallestSingle)))
+        return {value, Overflow};
     return {value, 0};
+}
+
+// The significant digits of `number` (not zero, finite) rounded to at most 15,
+// halves away from zero, without trailing zeros; `exponent` is the power of
+// ten of the first digit.
+QByteArray significantDigits(double number, int& exponent) {
+    // Forty digits decide the rounding unless the rest is exactly a half, as
+    // far as they go; then the exact expansion (at most 767 digits) decides.
+    char buffer[840];
+    std::snprintf(buffer, sizeof buffer, "%.39e", std::fabs(number));
+    // buffer: the first digit, the point, then digits 2 to 40 at their index.
+    bool half = buffer[16] == '5';
+    for (int k = 17; k <= 40 && half; ++k) half = buffer[k] == '0';
+    if (half) std::snprintf(buffer, sizeof buffer, "%.780e", std::fabs(number));
+
+    exponent = std::atoi(std::strchr(buffer, 'e') + 1);
+    QByteArray digits = buffer[0] + QByteArray(buffer + 2, 14);
+    if (buffer[16] >= '5') {
+        int k = static_cast<int>(digits.size()) - 1;
+        while (k >= 0 && digits[k] == '9') digits[k--] = '0';
+        if (k >= 0) {
+            ++digits[k];
+        } else {
+            digits.prepend('1');
+            digits.chop(1);
+            ++exponent;
+        }
+    }
+    while (digits.size() > 1 && digits.endsWith('0')) digits.chop(1);
+    return digits;
 }
 
 } // namespace
 
-Conversion TextToSingle(const QString& text) { return convert(text, FLT_MAX); }
+Conversion TextToSingle(const QString& text) { return convert(text, true); }
 
-Conversion TextToDouble(const QString& text) { return convert(text, DBL_MAX); }
+Conversion TextToDouble(const QString& text) { return convert(text, false); }
 
+// As oleaut32 renders a double: 15 significant digits, halves rounded away
+// from zero, no negative zero; fixed notation for powers of ten from -4 to 14
+// with the regional decimal symbol, otherwise "1.5E+20" with a point.
 QString NumberToText(double number) {
-    char buffer[64];
-    std::snprintf(buffer, sizeof buffer, "%.15G", number);
-    QString out = QString::fromLatin1(buffer);
-    out.replace(QLatin1Char('.'), RegionalDecimalSymbol());
-    return out;
+    if (number == 0) return QStringLiteral("0");
+    if (!std::isfinite(number)) return QString::number(number);
+    int exponent = 0;
+    const QByteArray digits = significantDigits(number, exponent);
+    QByteArray out = number < 0 ? "-" : "";
+    if (exponent < -4 || exponent >= 15) {
+        out += digits.first(1);
+        if (digits.size() > 1) out += '.' + digits.sliced(1);
+        char power[16];
+        std::snprintf(power, sizeof power, "E%c%02d", exponent < 0 ? '-' : '+', std::abs(exponent));
+        out += power;
+        return QString::fromLatin1(out);
+    }
+    QString text = QString::fromLatin1(out);
+    if (exponent < 0) {
+        text += QLatin1Char('0') + RegionalDecimalSymbol() + QString(-exponent - 1, QLatin1Char('0')) +
+                QString::fromLatin1(digits);
+    } else if (digits.size() <= exponent + 1) {
+        text += QString::fromLatin1(digits) + QString(exponent + 1 - digits.size(), QLatin1Char('0'));
+    } else {
+        text += QString::fromLatin1(digits.first(exponent + 1)) + RegionalDecimalSymbol() +
+                QString::fromLatin1(digits.sliced(exponent + 1));
+    }
+    return text;
 }
 
 } // namespace brimo

@@ -17,15 +17,18 @@ struct Conversion {
     bool ok() const { return error == 0; }
 };
 
-// Optional blanks, an optional sign, digits with grouping symbols between
-// them, one decimal symbol, an optional exponent (E or e, optional sign,
-// digits), optional blanks. Single precision overflows above 3.4E+38.
+// Blanks, a sign, digits with grouping symbols, one decimal symbol, an
+// exponent (E or e, a sign, digits), blanks: read as oleaut32 reads them (see
+// canonicalNumber in the source for the details). A single overflows when it
+// rounds to infinity (about 3.4028235E+38) or when it is not zero and below
+// the smallest single (about 1.4E-45).
 Conversion TextToSingle(const QString& text);
 Conversion TextToDouble(const QString& text);
 
-// The shortest rendering with at most 15 significant digits, the regional
-// decimal symbol, no grouping, a leading 0 before the decimal symbol, and the
-// forms 1E+20 and 1E-05 beyond that.
+// The shortest rendering with at most 15 significant digits (halves rounded
+// away from zero), the regional decimal symbol, no grouping, a leading 0
+// before the decimal symbol, never "-0"; below 1E-04 and from 1E+15 on the
+// forms 1E-05 and 1.5E+20, which keep a point as oleaut32 writes them.
 QString NumberToText(double number);
 
 // The regional symbols in force now.

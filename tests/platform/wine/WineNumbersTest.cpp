@@ -1,0 +1,251 @@
+// The program's conversions between text and numbers against oleaut32's
+// VarR8FromStr, VarR4FromStr and VarBstrFromR8 as Wine runs them, under a
+// locale with a decimal point (en_US: '.' and ',' for grouping) and one with
+// a decimal comma (de_DE: ',' and '.'). The regional settings come from the
+// environment, so the program's side runs as a child process of this one
+// with the locale set (see main.cpp).
+//
+// Compared: refusal (type mismatch), overflow or success, the value, and the
+// text of a number. Values are compared to within a few units in the last
+// place: Wine builds a double from the digits by repeated scaling and can miss
+// the nearest double by an ulp or two, where the program rounds correctly.
+// Nothing in the program depends on the last bit: a number is converted from
+// a text only to test the text.
+//
+// Known differences, kept out of the compared corpus on purpose:
+//  - Forms beyond plain numbers that oleaut32 accepts and the program refuses:
+//    a currency symbol ("$5"), parentheses for a negative number ("(5)"), a
+//    trailing sign ("5-", "5 +", ".-5"), hexadecimal and octal ("&H10",
+//    "&O7").
+//  - oleaut32 reads digits that follow a grouping symbol after a complete
+//    exponent as more digits of the number ("1e5,3" is 1300000); the program
+//    refuses such a text. A grouping symbol alone after the exponent ("1e5,")
+//    is accepted by both.
+//  - Doubles within about 1e-13 of the largest double (1.797693134862315E308
+//    and above): Wine's scaling overflows before it reaches them.
+//  - Texts far below the smallest normal double, such as "4.9e-324": Wine's
+//    scaling may lose them to 0 where the program finds the nearest
+//    subnormal double, which is then too small for a single (an overflow).
+
+#include "WineOracle.h"
+
+#include <QCoreApplication>
+#include <QProcess>
+#include <gtest/gtest.h>
+
+#include <cfloat>
+#include <cmath>
+#include <cstring>
+
+namespace brimo::winetest {
+namespace {
+
+constexpr quint32 kTypeMismatch = 0x80020005u;
+constexpr quint32 kOverflow = 0x8002000Au;
+
+struct Locale {
+    const char* name;
+    char decimal;
+    char group;
+};
+
+const Locale kLocales[] = {{"en_US.UTF-8", '.', ','}, {"de_DE.UTF-8", ',', '.'}};
+
+// The texts named in the program's notes, and the corners around them.
+const char* const kTexts[] = {
+    "0", "12", "-12", "+3", "2.50", ".5", "-.5", ".", "5.", " 12", "12 ", " ", "", "1e39", "1E+400", "1e-5",
+    "2,5", "1,234.5", "1.234,5", "abc", "1x", "--1", "1e", "1e+", "0.7", "1,,2", ",5", "1,", ",", ".,5", ",.5",
+    "1.,5", "1,.5", "-,5", "0,5", "1 ,", "1, ", "- 1", "+-1", "-+1", "+ -1", "1e+-5", "1e-+5", "1e++5", "1e,5",
+    "1e5,", "1e5.", "1e5 ", "1e 5", "1 e5", "1e5e3", "1.5.", "1..5", "1.5e5.", "1e05", "1e0005", "0000.5",
+    "00", "-", "+", "-.", "+.e5", ".e5", "1.e5", "1e-0", "-0", "0e-50", "1 000", "1 2", "1\t2", "\t5", "\n5",
+    "5\n", "\r5", "\x0b" "5", "\x1c" "5", "\xc2\x85" "5", "\xc2\xa0" "5", "5\xc2\xa0", "1\xc2\xa0" "000",
+    "\xe2\x80\x83" "5", "\xe3\x80\x80" "5", "\xe2\x80\xaf" "5", "\xe2\x80\x8b" "5", "\xef\xbb\xbf" "5",
+    "\xef\xbc\x95", "\xd9\xa5", "1E5", "1e+05", "12e", "1.5e3x", "1d5", "1D5", "1e5d", "inf", "nan",
+    "Infinity", "0x10", "1_000", "1'000",
+    // Ranges: single precision.
+    "4e38", "3.5e38", "-3.5e38", "3.4e38", "3.402823466e38", "3.4028234664e38", "3.40282347e38",
+    "3.4028235677e38", "3.40282356779733e38", "3.402823567797337e38", "3.4028235678e38", "-3.4028235678e38",
+    "1e-38", "1.17549435e-38", "1e-40", "1e-44", "1.4e-45", "1.401298464e-45", "1.4012984643e-45",
+    "1.4012984644e-45", "1e-45", "8e-46", "7e-46", "1e-46", "-1e-46", "1e-300",
+    // Ranges: double precision.
+    "1e308", "-1e308", "1.7e308", "1.79e308", "1.797693134862e308", "1.8e308", "1e309", "-1e309", "1e400",
+    "1e-307", "1e-308", "2.2250738585072014e-308", "1e-310", "1e-320", "5e-324", "2e-324", "1e-324",
+    "1e-400",
+    // Many digits.
+    "123456789012345678901234567890", "0.1234567890123456789", "9007199254740993", "1e22", "1e23",
+    "0.000000000000000000000000000000000000000000000000000001", "100000000000000000000000000000000000000000",
+    "1,000,000,000,000,000,000,000,000,000,000,000,000,000", "0.30000000000000004", "2.675", "8.5",
+};
+
+// Numbers for NumberToText.
+const double kNumbers[] = {
+    0.7, 1.5, 860, 1e20, 1e-5, 123456789012345678.0, 0.1 + 0.2, -2.5, 1e15, 1e14, 0.0001, 0.0, -0.0, 1.234e-5,
+    123456789012345.6, 999999999999999.9, 99999999999999.99, 1e16, 1e-300, 5e-324, DBL_MAX, -DBL_MAX, 0.5, 100,
+    1e21, 12345678901234567890.0, 3.0000000000000004, 2.675, 1.0 / 3, -1e-7, 1.5e-5, 2.5e-10, 1.5e20, -1.5e20,
+    0.001, 0.00999, 1e100, 1e-100, 123.456, -0.5, 65535, 4294967296.0, FLT_MAX, FLT_MIN,
+};
+
+bool isSign(char c) { return c == '+' || c == '-'; }
+bool isDigit(char c) { return c >= '0' && c <= '9'; }
+bool isExponent(char c) { return c == 'e' || c == 'E'; }
+
+// A sign after the number has begun that is no sign of its exponent.
+bool hasTrailingSign(const QByteArray& t, const Locale& l) {
+    bool begun = false;
+    for (qsizetype i = 0; i < t.size(); ++i) {
+        if (isDigit(t[i]) || t[i] == l.decimal) begun = true;
+        if (!begun || !isSign(t[i])) continue;
+        qsizetype j = i - 1;
+        while (j >= 0 && (t[j] == l.group || isSign(t[j]))) --j;
+        if (j < 0 || !isExponent(t[j])) return true;
+    }
+    return false;
+}
+
+// A digit after an exponent's digits have ended.
+bool hasDigitAfterExponent(const QByteArray& t) {
+    qsizetype i = 0;
+    while (i < t.size() && !isExponent(t[i])) ++i;
+    while (i < t.size() && !isDigit(t[i])) ++i;
+    while (i < t.size() && isDigit(t[i])) ++i;
+    for (; i < t.size(); ++i)
+        if (isDigit(t[i])) return true;
+    return false;
+}
+
+// Distance in units of the last place; both zeros are one point.
+qint64 ulps64(quint64 a, quint64 b) {
+    auto ordered = [](quint64 bits) {
+        const qint64 magnitude = static_cast<qint64>(bits & 0x7FFFFFFFFFFFFFFFull);
+        return (bits >> 63) ? -magnitude : magnitude;
+    };
+    return std::llabs(ordered(a) - ordered(b));
+}
+qint64 ulps32(quint32 a, quint32 b) {
+    auto ordered = [](quint32 bits) {
+        const qint64 magnitude = bits & 0x7FFFFFFFu;
+        return (bits >> 31) ? -magnitude : magnitude;
+    };
+    return std::llabs(ordered(a) - ordered(b));
+}
+
+QList<QByteArray> runOurs(const QByteArray& input, const Locale& locale) {
+    QProcess child;
+    QProcessEnvironment env = QProcessEnvironment::systemEnvironment();
+    env.remove("LC_NUMERIC");
+    env.insert("LC_ALL", locale.name);
+    env.insert("LANG", locale.name);
+    child.setProcessEnvironment(env);
+    child.start(QCoreApplication::applicationFilePath(), {"--numbers"});
+    child.write(input);
+    child.closeWriteChannel();
+    if (!child.waitForFinished(120000) || child.exitCode() != 0) return {};
+    QByteArray out = child.readAllStandardOutput();
+    if (out.endsWith('\n')) out.chop(1);
+    return out.split('\n');
+}
+
+QList<QByteArray> runWine(const QByteArray& input, const Locale& locale) {
+    QString error;
+    const QList<QByteArray> out = WineSession::instance().run(numberOracle(), input, locale.name, &error);
+    EXPECT_TRUE(error.isEmpty()) << error.toStdString();
+    return out;
+}
+
+std::string report(const QList<QByteArray>& lines) {
+    std::string out;
+    for (qsizetype i = 0; i < lines.size() && i < 60; ++i) out += lines[i].toStdString() + "\n";
+    if (lines.size() > 60) out += "... " + std::to_string(lines.size() - 60) + " more\n";
+    return out;
+}
+
+QList<QByteArray> corpusOfTexts() {
+    QList<QByteArray> texts;
+    for (const char* t : kTexts) texts.append(t);
+    // Every text of up to five characters over the characters of a number.
+    const char alphabet[] = " +-07,.e";
+    QList<QByteArray> layer{QByteArray()};
+    for (int length = 1; length <= 5; ++length) {
+        QList<QByteArray> next;
+        for (const QByteArray& t : layer)
+            for (char c : std::string_view(alphabet)) next.append(t + c);
+        texts += next;
+        layer = next;
+    }
+    return texts;
+}
+
+class WineNumbers : public ::testing::TestWithParam<Locale> {};
+
+TEST_P(WineNumbers, TextsConvertAlike) {
+    const Locale& locale = GetParam();
+    const QList<QByteArray> texts = corpusOfTexts();
+    QByteArray input;
+    for (const QByteArray& t : texts) input += "T " + encodeField(t) + '\n';
+    const QList<QByteArray> wine = runWine(input, locale);
+    const QList<QByteArray> ours = runOurs(input, locale);
+    ASSERT_EQ(wine.size(), texts.size());
+    ASSERT_EQ(ours.size(), texts.size());
+
+    QList<QByteArray> differences;
+    int excused = 0;
+    qint64 worst8 = 0, worst4 = 0;
+    for (qsizetype i = 0; i < texts.size(); ++i) {
+        const QList<QByteArray> w = wine[i].split(' '), o = ours[i].split(' ');
+        ASSERT_EQ(w.size(), 4) << wine[i].toStdString();
+        ASSERT_EQ(o.size(), 4) << ours[i].toStdString();
+        const quint32 wh8 = w[0].toUInt(nullptr, 16), oh8 = o[0].toUInt(nullptr, 16);
+        const quint32 wh4 = w[2].toUInt(nullptr, 16), oh4 = o[2].toUInt(nullptr, 16);
+        const bool refusedHereOnly =
+            oh8 == kTypeMismatch && wh8 != kTypeMismatch && oh4 == kTypeMismatch && wh4 != kTypeMismatch;
+        if (refusedHereOnly && (hasTrailingSign(texts[i], locale) || hasDigitAfterExponent(texts[i]))) {
+            ++excused;
+            continue;
+        }
+        const qint64 d8 = ulps64(w[1].toULongLong(nullptr, 16), o[1].toULongLong(nullptr, 16));
+        const qint64 d4 = ulps32(w[3].toUInt(nullptr, 16), o[3].toUInt(nullptr, 16));
+        if (wh8 == 0 && oh8 == 0) worst8 = std::max(worst8, d8);
+        if (wh4 == 0 && oh4 == 0) worst4 = std::max(worst4, d4);
+        if (wh8 != oh8 || wh4 != oh4 || d8 > 4 || d4 > 1)
+            differences.append('"' + encodeField(texts[i]) + "\": Wine " + wine[i] + ", ours " + ours[i]);
+    }
+    std::printf("%s: %lld texts, %d excused, worst distance %lld ulps (double), %lld (single)\n", locale.name,
+                static_cast<long long>(texts.size()), excused, static_cast<long long>(worst8),
+                static_cast<long long>(worst4));
+    EXPECT_TRUE(differences.isEmpty()) << differences.size() << " texts differ:\n" << report(differences);
+}
+
+TEST_P(WineNumbers, NumbersReadAlike) {
+    const Locale& locale = GetParam();
+    QList<double> numbers(std::begin(kNumbers), std::end(kNumbers));
+    // Values as a user types them, and values of every size.
+    for (int n = -2000; n <= 2000; n += 7) numbers << n / 100.0 << n / 1000.0 << n / 8.0;
+    quint64 seed = 88172645463325252ull;
+    for (int i = 0; i < 3000; ++i) {
+        seed ^= seed << 13, seed ^= seed >> 7, seed ^= seed << 17;
+        const double mantissa = 1.0 + static_cast<double>(seed >> 11) / 9007199254740992.0 * 9.0;
+        numbers << (seed & 1 ? -1 : 1) * mantissa * std::pow(10.0, static_cast<int>((seed >> 3) % 61) - 30);
+    }
+    QByteArray input;
+    for (double v : numbers) {
+        quint64 bits;
+        std::memcpy(&bits, &v, 8);
+        input += "N " + QByteArray::number(bits, 16) + '\n';
+    }
+    const QList<QByteArray> wine = runWine(input, locale);
+    const QList<QByteArray> ours = runOurs(input, locale);
+    ASSERT_EQ(wine.size(), numbers.size());
+    ASSERT_EQ(ours.size(), numbers.size());
+    QList<QByteArray> differences;
+    for (qsizetype i = 0; i < numbers.size(); ++i)
+        if (wine[i] != ours[i])
+            differences.append(QByteArray::number(numbers[i], 'g', 17) + ": Wine " + wine[i] + ", ours " + ours[i]);
+    std::printf("%s: %lld numbers\n", locale.name, static_cast<long long>(numbers.size()));
+    EXPECT_TRUE(differences.isEmpty()) << differences.size() << " numbers differ:\n" << report(differences);
+}
+
+INSTANTIATE_TEST_SUITE_P(Locales, WineNumbers, ::testing::ValuesIn(kLocales),
+                         [](const auto& info) { return std::string(info.param.name).substr(0, 5); });
+
+} // namespace
+} // namespace brimo::winetest
