@@ -169,8 +169,9 @@ Conversion TextToSingle(const QString& text) { return convert(text, true); }
 Conversion TextToDouble(const QString& text) { return convert(text, false); }
 
 // As oleaut32 renders a double: 15 significant digits, halves rounded away
-// from zero, no negative zero; fixed notation for powers of ten from -4 to 14
-// with the regional decimal symbol, otherwise "1.5E+20" with a point.
+// from zero, no negative zero; fixed notation for powers of ten from -4 to 14,
+// otherwise "1.5E+20"; always with the regional decimal symbol, so that the
+// text reads back as the same number.
 QString NumberToText(double number) {
     if (number == 0) return QStringLiteral("0");
     if (!std::isfinite(number)) return QString::number(number);
@@ -179,11 +180,11 @@ QString NumberToText(double number) {
     QByteArray out = number < 0 ? "-" : "";
     if (exponent < -4 || exponent >= 15) {
         out += digits.first(1);
-        if (digits.size() > 1) out += '.' + digits.sliced(1);
+        QString text = QString::fromLatin1(out);
+        if (digits.size() > 1) text += RegionalDecimalSymbol() + QString::fromLatin1(digits.sliced(1));
         char power[16];
         std::snprintf(power, sizeof power, "E%c%02d", exponent < 0 ? '-' : '+', std::abs(exponent));
-        out += power;
-        return QString::fromLatin1(out);
+        return text + QString::fromLatin1(power);
     }
     QString text = QString::fromLatin1(out);
     if (exponent < 0) {

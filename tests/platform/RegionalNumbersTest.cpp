@@ -127,14 +127,14 @@ INSTANTIATE_TEST_SUITE_P(
                       NumberCase{-2.5, "-2D5"}, NumberCase{0.1 + 0.2, "0D3"}, NumberCase{2.675, "2D675"},
                       NumberCase{1e14, "100000000000000"}, NumberCase{0.0001, "0D0001"}, NumberCase{0.0, "0"},
                       NumberCase{-0.0, "0"}, NumberCase{1.0 / 3, "0D333333333333333"},
-                      // The exponent forms keep a point.
+                      // The exponent forms, with the regional symbol too.
                       NumberCase{1e15, "1E+15"}, NumberCase{1e20, "1E+20"}, NumberCase{1e-5, "1E-05"},
-                      NumberCase{-1.5e-7, "-1.5E-07"}, NumberCase{123456789012345678.0, "1.23456789012346E+17"},
+                      NumberCase{-1.5e-7, "-1D5E-07"}, NumberCase{123456789012345678.0, "1D23456789012346E+17"},
                       NumberCase{1e-300, "1E-300"},
                       // Halves of the last digit round away from zero.
                       NumberCase{383559499639296.5, "383559499639297"},
                       NumberCase{-383559499639296.5, "-383559499639297"},
-                      NumberCase{5223246344905265.0, "5.22324634490527E+15"},
+                      NumberCase{5223246344905265.0, "5D22324634490527E+15"},
                       NumberCase{999999999999999.9, "1E+15"}));
 
 } // namespace
