@@ -42,7 +42,7 @@ printf '%s\r\n' \
   '(setq QZ_ecart_pts 1) ;Ecart entre les recherches' \
   "(setq QZ_fact_flch 6) ;Facteur d'"$'\xe9'"chelle des fl"$'\xe8'"ches de direction" \
   > "$E2E_DIR/expected.lsp"
-printf '%s\r\n' '[Brimo_Gene]' 'x_lang=FRA' 'cadre_usery=900' '' '[Brimo_Talus]' \
+printf '%s\r\n' '[Brimo_Gene]' 'x_lang=FRA' 'cadre_usery=900' '[Brimo_Talus]' \
   'x_QZ_asp_dess=polyligne' 'x_QZ_des_tal=2' 'x_QZ_tal_dh=4' 'x_QZ_tal_dv=2' 'x_QZ_tal_max=20' \
   'x_QZ_rech_360=12.5' 'x_QZ_ecart_pts=1' 'x_QZ_fact_flch=6' > "$E2E_DIR/expected.ini"
 
