@@ -59,11 +59,11 @@ start FRA VTalus "Paramètre de recherche pied de talus"; shot slope-96dpi; stop
 QT_SCALE_FACTOR=2 start FRA VTalus "Paramètre de recherche pied de talus"; shot slope-192dpi; stop
 
 # The general dialog, tab by tab: it opens on tab 0 in French and on tab 4
-# in German; Tab puts the focus into the tab showing, Ctrl+Tab walks on.
+# in German; Shift+Tab from OK reaches the tab bar, Ctrl+Tab walks on.
 for lang in FRA DEU; do
   case $lang in FRA) title="Général"; tag=fr; first=0 ;; DEU) title="Allgemein"; tag=de; first=4 ;; esac
   start $lang VGene "$title"
-  xdotool key Tab; sleep 0.3
+  xdotool key shift+Tab; sleep 0.3
   for step in 0 1 2 3 4 5; do
     shot general-$tag-tab$(( (first + step) % 6 ))
     xdotool key ctrl+Tab; sleep 0.4
