@@ -52,7 +52,7 @@ QByteArray makeIni(qsizetype megabytes) {
         out += "\r\n";
     }
     out += "[Brimo_Gene]\r\n";
-    for (const GeneralVariableSpec& spec : kGeneralVariableCatalogue) out += QByteArray(spec.key) + "=1\r\n";
+    for (const GeneralVariableRow& entry : kGeneralVariableCatalogue) out += QByteArray(entry.key) + "=1\r\n";
     return out;
 }
 

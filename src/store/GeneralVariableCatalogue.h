@@ -10,7 +10,7 @@ enum class DefaultKind { Int, Dbl, Txt };
 // What the dialogs and the Lisp file make of the value.
 enum class ValueType { Number, Text, Choice, Flag };
 
-struct GeneralVariableSpec {
+struct GeneralVariableRow {
     int no;
     const char* key;           // as the load spells it
     DefaultKind defaultKind;
@@ -20,7 +20,7 @@ struct GeneralVariableSpec {
     const char* field;         // the control of CGeneralForm that shows it
 };
 
-inline constexpr std::array<GeneralVariableSpec, 51> kGeneralVariableCatalogue = {{
+inline constexpr std::array<GeneralVariableRow, 51> kGeneralVariableCatalogue = {{
     {1, "cadre_usery", DefaultKind::Int, 860, "", ValueType::Number, "Val0"},
     {2, "cadre_userx", DefaultKind::Int, 1600, "", ValueType::Number, "Val1"},
     {3, "cadre_couleur", DefaultKind::Int, 2, "", ValueType::Number, "Val2"},

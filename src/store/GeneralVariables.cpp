@@ -11,11 +11,11 @@ namespace {
 const QString kSection = QStringLiteral("Brimo_Gene");
 }
 
-VariableValue DefaultValue(const GeneralVariableSpec& spec) {
-    switch (spec.defaultKind) {
-    case DefaultKind::Int: return static_cast<qint16>(spec.defaultNumber);
-    case DefaultKind::Dbl: return spec.defaultNumber;
-    case DefaultKind::Txt: return QString::fromUtf8(spec.defaultText);
+VariableValue DefaultValue(const GeneralVariableRow& entry) {
+    switch (entry.defaultKind) {
+    case DefaultKind::Int: return static_cast<qint16>(entry.defaultNumber);
+    case DefaultKind::Dbl: return entry.defaultNumber;
+    case DefaultKind::Txt: return QString::fromUtf8(entry.defaultText);
     }
     return QString();
 }
@@ -47,10 +47,10 @@ void GeneralVariables::setValue(QAnyStringView key, VariableValue value) { value
 
 void LoadGeneralVariables(const InstallInfo& info, GeneralVariables& variables) {
     const ProfileDocument ini = LoadProfile(BrimoIniPath(info));
-    for (const GeneralVariableSpec& spec : kGeneralVariableCatalogue) {
-        const QString key = QLatin1String(spec.key);
+    for (const GeneralVariableRow& entry : kGeneralVariableCatalogue) {
+        const QString key = QLatin1String(entry.key);
         const QString read = ReadProfileString(ini, kSection, key);
-        if (read.isEmpty()) variables.setValue(key, DefaultValue(spec));
+        if (read.isEmpty()) variables.setValue(key, DefaultValue(entry));
         else variables.setText(key, read);
     }
 }

@@ -35,7 +35,7 @@ private:
 };
 
 // The default of a catalogue row, held as the catalogue says.
-VariableValue DefaultValue(const GeneralVariableSpec& spec);
+VariableValue DefaultValue(const GeneralVariableRow& entry);
 
 // Reads the 51 keys of section Brimo_Gene from BrimoIniPath(info), in the
 // catalogue's order; a missing or empty value takes its default.
