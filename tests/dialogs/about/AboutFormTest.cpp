@@ -10,6 +10,7 @@
 #include <QFrame>
 #include <QLabel>
 #include <QPushButton>
+#include <QScreen>
 #include <QtTest>
 
 using namespace brimo;
@@ -46,6 +47,10 @@ private slots:
         QCOMPARE(about->size(), TwipsSize(4605, 3945));
         QCOMPARE(about->minimumSize(), about->maximumSize());
         QVERIFY(!(about->windowFlags() & (Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint)));
+        // Centred before the window system has put its frame round it: off
+        // by no more than the frame's width.
+        const QPoint offCentre = about->frameGeometry().center() - about->screen()->geometry().center();
+        QVERIFY2(offCentre.manhattanLength() <= 6, "the window opens centred on the screen");
 
         const struct {
             const char* name;
