@@ -56,13 +56,10 @@ private slots:
             const char* name;
             QRect place;
         } controls[] = {
-            {"cmdOK", TwipsRect(3360, 3480, 1095, 375)},         {"Command1", TwipsRect(3360, 2520, 1095, 375)},
-            {"txt_about(0)", TwipsRect(825, 105, 2580, 420)},    {"txt_about(10)", TwipsRect(855, 75, 2580, 420)},
-            {"txt_about(1)", TwipsRect(2160, 1200, 1785, 195)},  {"txt_about(11)", TwipsRect(840, 1440, 1380, 195)},
-            {"txt_about(12)", TwipsRect(840, 1680, 1110, 195)},  {"txt_about(2)", TwipsRect(840, 1920, 1335, 195)},
-            {"txt_about(5)", TwipsRect(840, 2520, 1365, 195)},   {"Image1", TwipsRect(720, 480, 3165, 675)},
-            {"Image2(0)", TwipsRect(120, 120, 465, 495)},        {"Image2(4)", TwipsRect(120, 2520, 465, 495)},
-            {"Image2(5)", TwipsRect(4080, 120, 465, 495)},       {"Image2(8)", TwipsRect(4080, 1920, 465, 495)},
+            {"cmdOK", TwipsRect(3360, 3480, 1095, 375)},        {"Command1", TwipsRect(3360, 2520, 1095, 375)},
+            {"txt_about(0)", TwipsRect(825, 105, 2580, 420)},   {"txt_about(10)", TwipsRect(855, 75, 2580, 420)},
+            {"txt_about(11)", TwipsRect(840, 1440, 1380, 195)}, {"Image1", TwipsRect(720, 480, 3165, 675)},
+            {"Image2(4)", TwipsRect(120, 2520, 465, 495)},      {"Image2(5)", TwipsRect(4080, 120, 465, 495)},
             {"Ligne1", TwipsRect(120, 3120, 3240, 15)},
         };
         for (const auto& control : controls) {
