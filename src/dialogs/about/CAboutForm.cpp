@@ -18,10 +18,13 @@ static void initAboutImages() { Q_INIT_RESOURCE(about); }
 
 namespace brimo {
 
+namespace {
+
+// The system information tool, at the fixed path of a French Windows system.
+// Under Wine the path lies in the prefix's drive C:, where a user who wants
+// the tool installs msinfo32.exe; without it, Command1 stays disabled.
 const QString kSystemInfoTool =
     QStringLiteral("C:\\Program Files\\Fichiers Communs\\Microsoft Shared\\MSinfo\\Msinfo32.exe");
-
-namespace {
 
 enum class Kind { Button, Label, Picture, Line };
 // The title is two labels 30 twips apart, the red one over the yellow one.

@@ -6,11 +6,6 @@
 
 namespace brimo {
 
-// The system information tool, at the fixed path of a French Windows system.
-// Under Wine the path lies in the prefix's drive C:, where a user who wants
-// the tool installs msinfo32.exe; without it, Command1 stays disabled.
-extern const QString kSystemInfoTool;
-
 class CAboutForm : public BrimoForm {
     Q_OBJECT
 public:
