@@ -1,5 +1,7 @@
 #include "app/BrimoForm.h"
 
+#include <QKeyEvent>
+
 namespace brimo {
 
 BrimoForm::BrimoForm(MainModule& module) : QDialog(nullptr), module_(module) {
@@ -10,6 +12,11 @@ BrimoForm::BrimoForm(MainModule& module) : QDialog(nullptr), module_(module) {
 void BrimoForm::useFixedBorder() {
     setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint |
                    Qt::WindowCloseButtonHint | Qt::MSWindowsFixedSizeDialogHint);
+}
+
+void BrimoForm::keyPressEvent(QKeyEvent* event) {
+    if (event->matches(QKeySequence::Cancel)) return;
+    QDialog::keyPressEvent(event);
 }
 
 } // namespace brimo

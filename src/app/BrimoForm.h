@@ -18,6 +18,8 @@ public:
 protected:
     // A fixed single border without minimise and maximise buttons.
     void useFixedBorder();
+    // No form has a button bound to Escape: the key closes nothing.
+    void keyPressEvent(QKeyEvent* event) override;
     MainModule& module_;
 };
 

@@ -39,7 +39,8 @@ void ShowInformationBox(const QString& text, const QString& title);
 // Message box of flags 20: critical icon, Yes and No; true for Yes.
 bool AskYesNoCritical(const QString& text, const QString& title);
 
-// Starts a program by its Windows path without waiting for it.
+// Starts a program by its Windows path without waiting for it: a .exe
+// through Wine when Wine can be started, anything else directly.
 bool StartProgram(const QString& windowsPath);
 // True when a file exists at the Windows path.
 bool FileExists(const QString& windowsPath);

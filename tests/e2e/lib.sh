@@ -14,21 +14,27 @@ e2e_setup() {
   export WINEPREFIX=$E2E_DIR/prefix
   mkdir -p "$WINEPREFIX/drive_c/windows" "$WINEPREFIX/dosdevices"
   ln -s ../drive_c "$WINEPREFIX/dosdevices/c:"
-  local n
-  for n in $(seq 90 140); do
-    [ -e /tmp/.X$n-lock ] && continue
+  # A display of our own: a free number tried in random order, kept only
+  # when our Xvfb holds its lock, so that tests run side by side (and by
+  # other users of this machine) never share a display.
+  local n tries display=
+  for n in $(shuf -i 100-999 -n 40); do
+    if [ -e "/tmp/.X$n-lock" ] || [ -e "/tmp/.X11-unix/X$n" ]; then continue; fi
     Xvfb ":$n" -screen 0 1280x1024x24 -nolisten tcp >/dev/null 2>&1 &
     E2E_XVFB=$!
-    export DISPLAY=":$n"
-    local tries=0
-    until xwininfo -root >/dev/null 2>&1; do
-      sleep 0.1; tries=$((tries + 1))
-      if ! kill -0 "$E2E_XVFB" 2>/dev/null; then break; fi
-      [ $tries -lt 100 ] || break
+    tries=0
+    until DISPLAY=":$n" xwininfo -root >/dev/null 2>&1; do
+      sleep 0.05; tries=$((tries + 1))
+      if ! kill -0 "$E2E_XVFB" 2>/dev/null || [ $tries -ge 200 ]; then break; fi
     done
-    xwininfo -root >/dev/null 2>&1 && break
+    if kill -0 "$E2E_XVFB" 2>/dev/null && [ "$(tr -d ' ' < "/tmp/.X$n-lock" 2>/dev/null)" = "$E2E_XVFB" ]; then
+      display=":$n"; break
+    fi
+    kill "$E2E_XVFB" 2>/dev/null || true
+    E2E_XVFB=
   done
-  xwininfo -root >/dev/null 2>&1 || { echo "FAIL: no X display could be started"; exit 1; }
+  [ -n "$display" ] || { echo "FAIL: no X display could be started"; exit 1; }
+  export DISPLAY=$display
   unset QT_QPA_PLATFORM
   export LC_ALL=C.UTF-8
 }

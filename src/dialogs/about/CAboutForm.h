@@ -1,4 +1,6 @@
 #pragma once
+// The about window: the program's title, the vendor, the versions that
+// zorel.ini gives, and a button that starts the system information tool.
 
 #include "app/BrimoForm.h"
 
@@ -8,6 +10,10 @@ class CAboutForm : public BrimoForm {
     Q_OBJECT
 public:
     explicit CAboutForm(MainModule& module);
+    void Form_Load() override;
+
+    void cmdOK_Click();
+    void Command1_Click();
 };
 
 } // namespace brimo

@@ -1,4 +1,6 @@
 #pragma once
+// The drawing variables dialog: a large tabbed form of design values.
+// Nothing loads its fields and nothing stores them; its buttons do nothing.
 
 #include "app/BrimoForm.h"
 

@@ -1,0 +1,65 @@
+#!/usr/bin/env bash
+# Start-up time of Brimo2010 up to its chooser on the screen, against a
+# minimal Qt Widgets program that shows one empty dialog, under Xvfb.
+#   bench/startup/startup.sh BUILD_DIR [RUNS]
+# Each run takes a timestamp, starts the program and waits for the X server
+# to report the mapping of its window (xev on the root window: one
+# connection, no polling). Prints the runs, the medians and their ratio.
+set -euo pipefail
+build=$(cd "$1" && pwd)
+runs=${2:-15}
+brimo=$build/src/app/Brimo2010
+minimal=$build/bench/startup/minimal_dialog
+here=$(cd "$(dirname "$0")" && pwd)
+source "$here/../../tests/e2e/lib.sh"
+e2e_setup "$brimo"
+command -v xev >/dev/null || { echo "SKIP: xev is not installed"; exit 77; }
+
+# An installation as the program finds it in use: zorel.ini, a legend file
+# of 300 lines and a Brimo.ini, so that no question comes up.
+e2e_zorel 'C:\Zorel' 'C:\Zorel\Var' 'Default'
+legends=""
+for n in $(seq 1 300); do legends+="L$(printf %03d "$n") Légende numéro $n"$'\n'; done
+e2e_write 'C:\Zorel\Lang\ZorelMsg_FRA.txt' "$legends"
+e2e_write 'C:\Zorel\Var\Brimo.ini' "[Brimo_Gene]
+x_lang=FRA"
+
+coproc XEV { exec stdbuf -oL xev -root -event substructure; }
+sleep 0.5
+
+# time_to_window PROGRAM: sets `elapsed` to the milliseconds from the start
+# to the first window of the program mapped on the screen.
+time_to_window() {
+  local start end pid line
+  start=$(date +%s%N)
+  "$1" >"$E2E_DIR/program.log" 2>&1 &
+  pid=$!
+  while :; do
+    if ! read -r -t 20 line <&"${XEV[0]}"; then
+      echo "no window of $1 after 20 s:" >&2; cat "$E2E_DIR/program.log" >&2; exit 1
+    fi
+    [[ $line == MapNotify* ]] && break
+  done
+  end=$(date +%s%N)
+  elapsed=$(( (end - start) / 1000000 ))
+  kill "$pid"; wait "$pid" 2>/dev/null || true
+}
+
+median() { printf '%s\n' "$@" | sort -n | awk '{ a[NR] = $1 } END { print (NR % 2) ? a[(NR + 1) / 2] : (a[NR / 2] + a[NR / 2 + 1]) / 2 }'; }
+
+# A first start of each fills the file caches; it is not counted.
+time_to_window "$minimal"
+time_to_window "$brimo"
+brimo_times=() minimal_times=()
+for _ in $(seq 1 "$runs"); do
+  time_to_window "$minimal"; minimal_times+=("$elapsed")
+  time_to_window "$brimo"; brimo_times+=("$elapsed")
+done
+kill "$XEV_PID" 2>/dev/null || true
+m_minimal=$(median "${minimal_times[@]}")
+m_brimo=$(median "${brimo_times[@]}")
+echo "minimal_dialog runs (ms): ${minimal_times[*]}"
+echo "Brimo2010 runs (ms):      ${brimo_times[*]}"
+echo "median minimal_dialog: $m_minimal ms"
+echo "median Brimo2010:      $m_brimo ms"
+awk -v b="$m_brimo" -v m="$m_minimal" 'BEGIN { printf "ratio: %.2f (goal: at most 1.30)\n", b / m }'

@@ -1,0 +1,12 @@
+#pragma once
+// The face that the forms were drawn with: 8-point MS Sans Serif, or the
+// nearest sans-serif face of the same width where it is not installed. The
+// twips positions of the forms only fit their captions at that size.
+
+#include <QFont>
+
+namespace brimo {
+
+QFont DesignFont();
+
+} // namespace brimo
