@@ -44,7 +44,15 @@ prefix() {
 start() { # LANGUAGE WORD TITLE: starts the program, waits for its window
   WINEPREFIX=$(prefix "$1") "$bin" $2 >/dev/null 2>&1 &
   app=$!
-  window=$(timeout 20 xdotool search --sync --onlyvisible --name "^$3\$" | head -n1)
+  focus "$3"
+}
+
+# focus TITLE: waits for the window and gives it the keyboard (Xvfb has no
+# window manager to do that).
+focus() {
+  window=$(timeout 20 xdotool search --sync --onlyvisible --name "^$1\$" | head -n1)
+  [ -n "$window" ] || { echo "no window '$1'" >&2; exit 1; }
+  xdotool windowfocus --sync "$window"
   sleep 0.5
 }
 
@@ -75,10 +83,9 @@ done
 # "Général" button; then Ctrl+Tab walks its tabs from tab 2.
 start FRA "" "Choix du module"
 xdotool key Return
-window=$(timeout 20 xdotool search --sync --onlyvisible --name "^Zorel2004 - Variables\$" | head -n1)
-sleep 0.5
+focus "Zorel2004 - Variables"
 for tab in 2 3 4 5 0 1; do
   shot drawing-tab$tab
-  xdotool key Tab ctrl+Tab; sleep 0.4
+  xdotool key ctrl+Tab; sleep 0.4
 done
 stop

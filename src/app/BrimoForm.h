@@ -4,6 +4,9 @@
 
 #include <QDialog>
 
+#include <utility>
+#include <vector>
+
 namespace brimo {
 
 class MainModule;
@@ -18,6 +21,9 @@ public:
 protected:
     // A fixed single border without minimise and maximise buttons.
     void useFixedBorder();
+    // Chains the tab order of the controls by their tab index; returns the
+    // control of the lowest index, which takes the focus at opening.
+    QWidget* chainTabOrder(std::vector<std::pair<int, QWidget*>> stops);
     // No form has a button bound to Escape: the key closes nothing.
     void keyPressEvent(QKeyEvent* event) override;
     MainModule& module_;

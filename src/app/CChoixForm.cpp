@@ -78,11 +78,9 @@ CChoixForm::CChoixForm(MainModule& module) : BrimoForm(module) {
         PlaceInTwips(widget, control.left, control.top, control.width, control.height);
         if (control.tabIndex != kNoTabStop) tabStops.emplace_back(control.tabIndex, widget);
     }
-    std::sort(tabStops.begin(), tabStops.end());
-    for (std::size_t i = 1; i < tabStops.size(); ++i) setTabOrder(tabStops[i - 1].second, tabStops[i].second);
     // The first tab stop holds the focus when the window opens; set before
     // the window shows, so that QDialog does not hand it to the default button.
-    tabStops.front().second->setFocus();
+    chainTabOrder(std::move(tabStops))->setFocus();
 }
 
 // A new window is shown before the chooser closes, so that the process,

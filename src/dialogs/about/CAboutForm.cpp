@@ -136,9 +136,7 @@ CAboutForm::CAboutForm(MainModule& module) : BrimoForm(module) {
         PlaceInTwips(widget, control.left, control.top, control.width, control.height);
         if (control.tabIndex != kNoTabStop) tabStops.emplace_back(control.tabIndex, widget);
     }
-    std::sort(tabStops.begin(), tabStops.end());
-    for (std::size_t i = 1; i < tabStops.size(); ++i) setTabOrder(tabStops[i - 1].second, tabStops[i].second);
-    tabStops.front().second->setFocus();
+    chainTabOrder(std::move(tabStops))->setFocus();
 
     auto* ok = findChild<QPushButton*>(QStringLiteral("cmdOK"));
     ok->setDefault(true);

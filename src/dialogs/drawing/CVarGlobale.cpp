@@ -97,9 +97,7 @@ CVarGlobale::CVarGlobale(MainModule& module) : BrimoForm(module) {
         PlaceInTwips(widget, control.left, control.top, control.width, control.height);
         if (control.tabIndex != kNoTabStop) tabStops.emplace_back(control.tabIndex, widget);
     }
-    std::sort(tabStops.begin(), tabStops.end());
-    for (std::size_t i = 1; i < tabStops.size(); ++i) setTabOrder(tabStops[i - 1].second, tabStops[i].second);
-    tabStops.front().second->setFocus();
+    chainTabOrder(std::move(tabStops))->setFocus();
 
     findChild<SSTabControl*>(QStringLiteral("SSTab1"))->setCurrentIndex(2);
 }

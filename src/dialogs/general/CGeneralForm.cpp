@@ -1,5 +1,7 @@
 #include "dialogs/general/CGeneralForm.h"
 
+#include "app/DesignFont.h"
+
 #include "app/CChoixForm.h"
 #include "app/CommitFailureReport.h"
 #include "app/MainModule.h"
@@ -50,10 +52,8 @@ CGeneralForm::CGeneralForm(MainModule& module) : BrimoForm(module) {
     setWindowIcon(GeneralWindowIcon());
     useFixedBorder();
     setFixedSize(TwipsSize(7470, 4455));
-    // The size of the classic dialog font, so that six tabs fit in one row.
-    QFont dialogFont = font();
-    dialogFont.setPointSize(8);
-    setFont(dialogFont);
+    // The classic dialog font, so that six tabs fit in one row.
+    setFont(DesignFont());
     controls_ = BuildGeneralControls(this, module);
 
     // The focus starts on the control of tab index 0.
@@ -155,15 +155,6 @@ void CGeneralForm::ProgramLocation_Click(const ProgramLocation& location) {
     if (chosen.isEmpty() || chosen.first().isEmpty()) return;
     field->setText(FieldTextForChosenFile(chosen.first()));
     field->setCursorPosition(0);
-}
-
-void CGeneralForm::keyPressEvent(QKeyEvent* event) {
-    // CmdCancel is no cancel button: Escape closes nothing.
-    if (event->matches(QKeySequence::Cancel)) {
-        event->accept();
-        return;
-    }
-    BrimoForm::keyPressEvent(event);
 }
 
 void CGeneralForm::setCaptions(std::span<const CaptionRow> rows) {

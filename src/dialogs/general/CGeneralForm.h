@@ -24,7 +24,6 @@ public:
     void Form_Load() override;
 
 protected:
-    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     // Event handlers, named after their controls.

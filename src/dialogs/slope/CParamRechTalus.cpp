@@ -1,5 +1,7 @@
 #include "dialogs/slope/CParamRechTalus.h"
 
+#include "app/DesignFont.h"
+
 #include "app/CommitFailureReport.h"
 #include "app/MainModule.h"
 #include "dialogs/about/CAboutForm.h"
@@ -40,14 +42,6 @@ constexpr const char* kTextFields[] = {"Text1", "Text2", "Text3", "Text4", "Text
 
 // The captions were sized for a narrow 8-point face (the longest label holds
 // 42 characters in 188 pixels at 96 DPI); a wider face would cut them.
-QFont FormFont() {
-    QFont font;
-    font.setFamilies({QStringLiteral("Arial Narrow"), QStringLiteral("Liberation Sans Narrow"),
-                      QStringLiteral("Nimbus Sans Narrow")});
-    font.setPointSize(8);
-    return font;
-}
-
 bool takesFocus(SlopeControlKind kind) {
     return kind != SlopeControlKind::Frame && kind != SlopeControlKind::Label;
 }
@@ -58,7 +52,7 @@ CParamRechTalus::CParamRechTalus(MainModule& module) : BrimoForm(module) {
     setObjectName(QStringLiteral("CParamRechTalus"));
     setWindowTitle(QStringLiteral("Paramètre de recherche pied de talus"));
     useFixedBorder();
-    setFont(FormFont());
+    setFont(DesignFont());
     // A frame's caption sits on its top border, as the controls inside were
     // placed to clear it; the classic style draws frames so.
     // Without that style (a stripped Qt) frames keep the application's.
@@ -75,7 +69,7 @@ CParamRechTalus::CParamRechTalus(MainModule& module) : BrimoForm(module) {
     }
     drawSketches();
     bindEvents();
-    chainTabOrder();
+    chainTabStops();
     control<QWidget>("Check1")->setFocus();
 }
 
@@ -123,13 +117,11 @@ void CParamRechTalus::drawSketches() {
 }
 
 // Tab order is the table's TabIndex; frames and labels never hold the focus.
-void CParamRechTalus::chainTabOrder() {
-    std::vector<const SlopeControl*> order;
+void CParamRechTalus::chainTabStops() {
+    std::vector<std::pair<int, QWidget*>> stops;
     for (const SlopeControl& entry : SlopeControls())
-        if (takesFocus(entry.kind)) order.push_back(&entry);
-    std::ranges::sort(order, {}, &SlopeControl::tabIndex);
-    for (std::size_t i = 1; i < order.size(); ++i)
-        setTabOrder(control<QWidget>(order[i - 1]->name), control<QWidget>(order[i]->name));
+        if (takesFocus(entry.kind)) stops.emplace_back(entry.tabIndex, control<QWidget>(entry.name));
+    chainTabOrder(std::move(stops));
 }
 
 // A check box's click follows every change of its state, by the user or by
@@ -174,11 +166,6 @@ void CParamRechTalus::Command1_Click() {
 void CParamRechTalus::CmdCancel_Click() { module_.End(0); }
 
 void CParamRechTalus::cmdAbout_Click() { module_.Show<CAboutForm>(); }
-
-void CParamRechTalus::keyPressEvent(QKeyEvent* event) {
-    if (event->key() == Qt::Key_Escape) return;
-    BrimoForm::keyPressEvent(event);
-}
 
 template <class Control> Control* CParamRechTalus::control(const char* name) const {
     return findChild<Control*>(QLatin1String(name));

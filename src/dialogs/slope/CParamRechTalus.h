@@ -30,12 +30,11 @@ public:
 
 protected:
     // Escape closes no window here: the form has no cancel button.
-    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     QWidget* createControl(const SlopeControl& control, QWidget* parent);
     void drawSketches();
-    void chainTabOrder();
+    void chainTabStops();
     void bindEvents();
     void untickOtherWhenTicked(const char* own, const char* other);
     template <class Control> Control* control(const char* name) const;
