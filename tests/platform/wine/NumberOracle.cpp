@@ -7,6 +7,8 @@
 // number is the hex of its bits (16 digits for R8, 8 for R4; 0 on failure).
 // A text is UTF-8 where '%' and two hex digits stand for one byte and "%-" for
 // the empty text.
+#include "OracleFields.h"
+
 #include <windows.h>
 #include <oleauto.h>
 
@@ -15,31 +17,6 @@
 #include <fcntl.h>
 #include <io.h>
 #include <string>
-
-static std::string decode(const std::string& field) {
-    if (field == "%-") return {};
-    std::string out;
-    for (size_t i = 0; i < field.size(); ++i) {
-        if (field[i] == '%' && i + 2 < field.size()) {
-            out += static_cast<char>(std::strtol(field.substr(i + 1, 2).c_str(), nullptr, 16));
-            i += 2;
-        } else {
-            out += field[i];
-        }
-    }
-    return out;
-}
-
-static std::string encode(const std::string& bytes) {
-    if (bytes.empty()) return "%-";
-    std::string out;
-    for (unsigned char c : bytes) {
-        char hex[4];
-        std::snprintf(hex, sizeof hex, "%%%02X", c);
-        out += (c > 0x20 && c < 0x7F && c != '%') ? std::string(1, static_cast<char>(c)) : std::string(hex);
-    }
-    return out;
-}
 
 int main() {
     _setmode(_fileno(stdin), _O_BINARY);

@@ -6,6 +6,8 @@
 //   P <file> <section> <key> <value>  -> <result>          (WritePrivateProfileStringA)
 // Fields are bytes of the ANSI code page: '%' followed by two hex digits stands
 // for one byte, "%-" for the empty field; any other byte stands for itself.
+#include "OracleFields.h"
+
 #include <windows.h>
 
 #include <cstdio>
@@ -14,36 +16,6 @@
 #include <io.h>
 #include <string>
 #include <vector>
-
-static std::string decode(const std::string& field) {
-    if (field == "%-") return {};
-    std::string out;
-    for (size_t i = 0; i < field.size(); ++i) {
-        if (field[i] == '%' && i + 2 < field.size()) {
-            out += static_cast<char>(std::strtol(field.substr(i + 1, 2).c_str(), nullptr, 16));
-            i += 2;
-        } else {
-            out += field[i];
-        }
-    }
-    return out;
-}
-
-static std::string encode(const char* bytes, size_t size) {
-    if (size == 0) return "%-";
-    std::string out;
-    for (size_t i = 0; i < size; ++i) {
-        const unsigned char c = static_cast<unsigned char>(bytes[i]);
-        if (c > 0x20 && c < 0x7F && c != '%') {
-            out += static_cast<char>(c);
-        } else {
-            char hex[4];
-            std::snprintf(hex, sizeof hex, "%%%02X", c);
-            out += hex;
-        }
-    }
-    return out;
-}
 
 int main() {
     _setmode(_fileno(stdin), _O_BINARY);
@@ -56,7 +28,7 @@ int main() {
             char buffer[255];
             std::memset(buffer, 0, sizeof buffer);
             const DWORD n = GetPrivateProfileStringA(f[2].c_str(), f[3].c_str(), "", buffer, 255, f[1].c_str());
-            std::printf("%lu %s\n", static_cast<unsigned long>(n), encode(buffer, std::strlen(buffer)).c_str());
+            std::printf("%lu %s\n", static_cast<unsigned long>(n), encode(std::string(buffer, std::strlen(buffer))).c_str());
         } else if (f.size() == 5 && f[0] == "P") {
             const BOOL ok = WritePrivateProfileStringA(f[2].c_str(), f[3].c_str(), f[4].c_str(), f[1].c_str());
             std::printf("%d\n", ok ? 1 : 0);
