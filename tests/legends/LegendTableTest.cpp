@@ -103,6 +103,14 @@ TEST(LegendTable, FailedLoadsAskAndLeaveOneEmptyEntry) {
     EXPECT_EQ(empty.result, -1);
     EXPECT_EQ(empty.question.asked, 1);
 
+    Loaded folder; // a folder where the file should be
+    {
+        ScratchPrefix prefix;
+        prefix.makeFolder(QStringLiteral("C:\\Zorel\\Lang\\ZorelMsg_FRA.txt"));
+        EXPECT_EQ(folder.table.LoadLegends(kFolder, QStringLiteral("FRA"), folder.question), -1);
+    }
+    EXPECT_EQ(folder.question.asked, 1);
+
     Loaded yes;
     yes.question.answerYes = true;
     load(yes, QByteArray());
