@@ -1,6 +1,7 @@
 #include "app/MainModule.h"
 
 #include "app/CommandWord.h"
+#include "app/DesignFont.h"
 #include "dialogs/about/CAboutForm.h"
 #include "dialogs/drawing/CVarGlobale.h"
 #include "dialogs/general/CGeneralForm.h"
@@ -108,6 +109,8 @@ int Main(int argc, char* argv[]) {
     int qtArgc = 1;
     char* qtArgv[] = {argv[0], nullptr};
     QApplication app(qtArgc, qtArgv);
+    // Every window speaks in the design font: one font engine serves them all.
+    QApplication::setFont(DesignFont());
 
     MainModule module;
     LoadInstallInfo(module.installInfo);
