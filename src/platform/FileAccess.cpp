@@ -31,6 +31,10 @@ std::optional<QByteArray> ReadWholeFile(const QString& nativePath, QString* erro
 namespace {
 
 bool folderAndFileWritable(const QString& nativePath, QString* error) {
+    if (nativePath.isEmpty()) {
+        if (error) *error = QStringLiteral("the path names no folder on this machine");
+        return false;
+    }
     const QFileInfo info(nativePath);
     if (!info.absoluteDir().exists()) {
         if (error) *error = QStringLiteral("the folder %1 does not exist").arg(info.absolutePath());

@@ -16,6 +16,9 @@ QString GetWindowsFolder() { return QStringLiteral("C:\\windows"); }
 
 QString MapWindowsPathText(const QString& windowsPath) {
     if (windowsPath.startsWith(QLatin1Char('/'))) return windowsPath;
+    // Two backslashes in front name a network share; a path joined from an
+    // empty folder ("\\Brimo.ini") is one too, and names nothing here.
+    if (windowsPath.startsWith(QLatin1String("\\\\"))) return {};
     QString rest = windowsPath;
     QString head;
     if (rest.size() >= 2 && rest.at(1) == QLatin1Char(':') && rest.at(0).isLetter()) {

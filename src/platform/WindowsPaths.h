@@ -19,6 +19,7 @@ QString GetWindowsFolder();
 //   "X:..."  -> $WINEPREFIX/dosdevices/x:...
 //   "\..."   -> the file system root
 //   "/..."   -> already native, used as it is
+//   "\\..."  -> a network share: no native path (the empty text)
 // Every backslash becomes '/'; nothing else is normalised. A component that
 // does not exist with that spelling is looked up without regard to case in
 // its folder, as Windows finds names; a component that does not exist at all

@@ -18,6 +18,8 @@ TEST(WindowsPaths, TextMapping) {
         {"\\Lang\\ZorelMsg_FRA.txt", "/Lang/ZorelMsg_FRA.txt"},
         {"/opt/brimo/file", "/opt/brimo/file"},
         {"rel\\file", "rel/file"},
+        {"\\\\Brimo.ini", ""},
+        {"\\\\server\\share\\x", ""},
     };
     for (const auto& [text, native] : cases) EXPECT_EQ(MapWindowsPathText(QString::fromUtf8(text)), native) << text;
     EXPECT_EQ(GetWindowsFolder(), QStringLiteral("C:\\windows"));

@@ -2,6 +2,7 @@
 
 #include "support/ScratchPrefix.h"
 
+#include <QFileInfo>
 #include <gtest/gtest.h>
 
 namespace brimo {
@@ -37,6 +38,14 @@ TEST(VariableCommit, CreatesTheProfileWhenTheFolderExists) {
 }
 
 TEST(VariableCommit, AFailureChangesNothingAndNamesTheFile) {
+    {
+        ScratchPrefix prefix; // an empty Variables and user: "\\Brimo_Gene.lsp" names nothing
+        const CommitOutcome outcome = CommitVariables(QStringLiteral("\\\\Brimo_Gene.lsp"), QStringLiteral("\\\\Brimo.ini"),
+                                                      QStringLiteral("Brimo_Gene"), kRows);
+        EXPECT_FALSE(outcome.ok);
+        EXPECT_EQ(outcome.file, QStringLiteral("\\\\Brimo_Gene.lsp"));
+        EXPECT_FALSE(QFileInfo::exists(QStringLiteral("/Brimo_Gene.lsp")));
+    }
     {
         ScratchPrefix prefix; // the folder is missing
         const CommitOutcome outcome = CommitVariables(kLisp, kIni, QStringLiteral("Brimo_Gene"), kRows);
