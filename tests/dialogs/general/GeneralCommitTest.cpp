@@ -11,7 +11,6 @@
 #include <QTabWidget>
 #include <QTest>
 
-
 namespace brimo::test {
 namespace {
 
