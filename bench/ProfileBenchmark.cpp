@@ -4,9 +4,9 @@
 
 #include "platform/FileAccess.h"
 #include "platform/ProfileFile.h"
-#include "store/GeneLispCatalogue.h"
-#include "store/GeneralVariables.h"
-#include "store/VariableCommit.h"
+#include "model/GeneLispCatalogue.h"
+#include "model/GeneralVariables.h"
+#include "model/VariableCommit.h"
 
 #include <QDir>
 #include <QFile>

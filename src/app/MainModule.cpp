@@ -1,13 +1,14 @@
 #include "app/MainModule.h"
 
 #include "app/CommandWord.h"
-#include "app/DesignFont.h"
 #include "dialogs/about/CAboutForm.h"
+#include "dialogs/chooser/CChoixForm.h"
 #include "dialogs/drawing/CVarGlobale.h"
 #include "dialogs/general/CGeneralForm.h"
 #include "dialogs/slope/CParamRechTalus.h"
-#include "app/CChoixForm.h"
-#include "platform/WindowServices.h"
+#include "forms/DesignFont.h"
+#include "forms/MessageBoxLegendQuestion.h"
+#include "model/UserLegends.h"
 
 #include <QApplication>
 
@@ -15,21 +16,6 @@
 #include <unistd.h>
 
 namespace brimo {
-
-namespace {
-
-// The question of a failed legend load, as a real message box.
-class MessageBoxLegendQuestion : public LegendFailureQuestion {
-public:
-    explicit MessageBoxLegendQuestion(MainModule& module) : module_(module) {}
-    bool ask(const QString& text, const QString& title) override { return AskYesNoCritical(text, title); }
-    void endProgram() override { module_.End(0); }
-
-private:
-    MainModule& module_;
-};
-
-} // namespace
 
 struct MainModule::Slots {
     QPointer<CChoixForm> choix;
@@ -44,6 +30,17 @@ template <> QPointer<CGeneralForm>& MainModule::slot<CGeneralForm>() const { ret
 template <> QPointer<CParamRechTalus>& MainModule::slot<CParamRechTalus>() const { return slots_->slope; }
 template <> QPointer<CAboutForm>& MainModule::slot<CAboutForm>() const { return slots_->about; }
 template <> QPointer<CVarGlobale>& MainModule::slot<CVarGlobale>() const { return slots_->drawing; }
+
+// Each form is handed what it uses.
+template <> CChoixForm* MainModule::create<CChoixForm>() { return new CChoixForm(*this); }
+template <> CGeneralForm* MainModule::create<CGeneralForm>() {
+    return new CGeneralForm(*this, installInfo, generalVariables, legendTable, *legendQuestion_);
+}
+template <> CParamRechTalus* MainModule::create<CParamRechTalus>() {
+    return new CParamRechTalus(*this, installInfo, legendTable);
+}
+template <> CAboutForm* MainModule::create<CAboutForm>() { return new CAboutForm(installInfo, legendTable); }
+template <> CVarGlobale* MainModule::create<CVarGlobale>() { return new CVarGlobale(); }
 
 MainModule::MainModule()
     : legendQuestion_(std::make_unique<MessageBoxLegendQuestion>(*this)), slots_(std::make_unique<Slots>()) {}
@@ -61,9 +58,7 @@ void MainModule::setLegendQuestion(std::unique_ptr<LegendFailureQuestion> questi
     legendQuestion_ = std::move(question);
 }
 
-int MainModule::LoadLegends() {
-    return legendTable.LoadLegends(LegendFolder(installInfo), generalVariables.text(u"x_lang"), *legendQuestion_);
-}
+int MainModule::LoadLegends() { return LoadUserLegends(legendTable, installInfo, generalVariables, *legendQuestion_); }
 
 template <class Form> Form* MainModule::Window() const {
     Form* form = slot<Form>().data();
@@ -78,10 +73,20 @@ template <class Form> Form* MainModule::Show() {
         return form.data();
     }
     delete form.data();
-    form = new Form(*this);
+    form = create<Form>();
     form->Form_Load();
     form->show();
     return form.data();
+}
+
+void MainModule::Show(FormKind form) {
+    switch (form) {
+    case FormKind::Chooser: Show<CChoixForm>(); break;
+    case FormKind::General: Show<CGeneralForm>(); break;
+    case FormKind::Slope: Show<CParamRechTalus>(); break;
+    case FormKind::About: Show<CAboutForm>(); break;
+    case FormKind::Drawing: Show<CVarGlobale>(); break;
+    }
 }
 
 void MainModule::End(int status) {

@@ -1,10 +1,13 @@
 #pragma once
-// The process's state: installation settings, general variables, legends,
-// and one slot per form class. Every form is shown modeless and without owner.
+// The program's shell, on top of every other layer: the process's state
+// (installation settings, general variables, legends), one slot per form
+// class, and the navigator through which the forms reach each other. Every
+// form is shown modeless and without owner. Nothing includes this layer.
 
-#include "app/InstallInfo.h"
-#include "legends/LegendTable.h"
-#include "store/GeneralVariables.h"
+#include "forms/Navigator.h"
+#include "model/GeneralVariables.h"
+#include "model/InstallInfo.h"
+#include "model/LegendTable.h"
 
 #include <QPointer>
 
@@ -13,17 +16,16 @@
 
 namespace brimo {
 
-class BrimoForm;
 class CChoixForm;
 class CGeneralForm;
 class CParamRechTalus;
 class CAboutForm;
 class CVarGlobale;
 
-class MainModule {
+class MainModule : public Navigator {
 public:
     MainModule();
-    ~MainModule();
+    ~MainModule() override;
 
     InstallInfo installInfo;
     GeneralVariables generalVariables;
@@ -31,7 +33,6 @@ public:
 
     // LoadLegends with the folder Zorel + "\Lang\" and the current x_lang.
     int LoadLegends();
-    QString GetLegends(int number) const { return legendTable.GetLegends(number); }
 
     // Creates the form if its window is closed (running its Form_Load), or
     // brings the open window forward without Form_Load.
@@ -39,16 +40,17 @@ public:
     // The form's open window, or nullptr.
     template <class Form> Form* Window() const;
 
-    // An explicit end: stops the process at once with every window.
-    void End(int status = 0);
+    void Show(FormKind form) override;
+    void End(int status) override;
 
-    // Who answers the legend question and ends the process; the window
-    // layer by default, tests put their own.
+    // Who answers the legend question; the message box by default, tests put
+    // their own. Tests also catch the explicit end.
     void setLegendQuestion(std::unique_ptr<LegendFailureQuestion> question);
     std::function<void(int)> endProcess;
 
 private:
     template <class Form> QPointer<Form>& slot() const;
+    template <class Form> Form* create();
     std::unique_ptr<LegendFailureQuestion> legendQuestion_;
     struct Slots;
     std::unique_ptr<Slots> slots_;

@@ -1,11 +1,11 @@
 // The command word, the form slots of MainModule, and the module chooser:
 // its window, its keyboard, and where each of its buttons leads.
 
-#include "app/CChoixForm.h"
 #include "app/CommandWord.h"
 #include "app/MainModule.h"
 #include "dialogs/about/CAboutForm.h"
-#include "platform/WindowServices.h"
+#include "dialogs/chooser/CChoixForm.h"
+#include "forms/WindowServices.h"
 #include "support/ScratchPrefix.h"
 
 #include <QApplication>

@@ -1,5 +1,4 @@
 #include "platform/WindowsPaths.h"
-
 #include "support/ScratchPrefix.h"
 
 #include <gtest/gtest.h>

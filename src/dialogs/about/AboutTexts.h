@@ -1,7 +1,7 @@
 #pragma once
 // The texts of the about window that come from the installation settings.
 
-#include "app/InstallInfo.h"
+#include "model/InstallInfo.h"
 
 #include <QString>
 #include <QList>

@@ -1,10 +1,11 @@
 #include "dialogs/about/CAboutForm.h"
 
-#include "app/DesignFont.h"
-#include "app/MainModule.h"
 #include "dialogs/about/AboutTexts.h"
-#include "legends/LegendNumbers.h"
-#include "platform/WindowServices.h"
+#include "forms/DesignFont.h"
+#include "forms/WindowServices.h"
+#include "forms/ZorelWindowIcon.h"
+#include "model/LegendNumbers.h"
+#include "platform/Programs.h"
 
 #include <QFrame>
 #include <QLabel>
@@ -118,13 +119,13 @@ QWidget* makeControl(const AboutControl& control, QWidget* form) {
 
 } // namespace
 
-CAboutForm::CAboutForm(MainModule& module) : BrimoForm(module) {
+CAboutForm::CAboutForm(InstallInfo& info, const LegendTable& legends) : info_(info), legends_(legends) {
     static const bool imagesReady = (initAboutImages(), true);
     Q_UNUSED(imagesReady);
 
     setObjectName(QStringLiteral("CAboutForm"));
     setWindowTitle(QStringLiteral("About"));
-    setWindowIcon(QIcon(QStringLiteral(":/chooser/zorel.png")));
+    setWindowIcon(ZorelWindowIcon());
     setFont(DesignFont());
     useFixedBorder();
     setFixedSize(TwipsSize(4605, 3945));
@@ -147,11 +148,11 @@ CAboutForm::CAboutForm(MainModule& module) : BrimoForm(module) {
 }
 
 void CAboutForm::Form_Load() {
-    findChild<QPushButton*>(QStringLiteral("Command1"))->setText(module_.GetLegends(Legend::SystemInfoButton));
-    setLabelText(findChild<QLabel*>(QStringLiteral("txt_about(4)")), module_.GetLegends(Legend::DevelopedBy));
+    findChild<QPushButton*>(QStringLiteral("Command1"))->setText(legends_.GetLegends(Legend::SystemInfoButton));
+    setLabelText(findChild<QLabel*>(QStringLiteral("txt_about(4)")), legends_.GetLegends(Legend::DevelopedBy));
 
-    ApplyVersionDisplayDefaults(module_.installInfo);
-    for (const ComposedLabel& composed : ComposeVersionLabels(module_.installInfo))
+    ApplyVersionDisplayDefaults(info_);
+    for (const ComposedLabel& composed : ComposeVersionLabels(info_))
         setLabelText(findChild<QLabel*>(composed.label), composed.text);
 
     findChild<QPushButton*>(QStringLiteral("Command1"))->setEnabled(FileExists(kSystemInfoTool));

@@ -1,11 +1,11 @@
 #include "dialogs/drawing/CVarGlobale.h"
 
-#include "app/DesignFont.h"
 #include "dialogs/drawing/DrawingControls.h"
 #include "dialogs/drawing/FrameBox.h"
 #include "dialogs/drawing/SSTabControl.h"
 #include "dialogs/drawing/WrappingCheckBox.h"
-#include "platform/WindowServices.h"
+#include "forms/DesignFont.h"
+#include "forms/WindowServices.h"
 
 #include <QHash>
 #include <QLabel>
@@ -73,7 +73,7 @@ QWidget* makeControl(const DrawingControl& control, QWidget* parent) {
 
 } // namespace
 
-CVarGlobale::CVarGlobale(MainModule& module) : BrimoForm(module) {
+CVarGlobale::CVarGlobale() {
     static const bool imagesReady = (initDrawingImages(), true);
     Q_UNUSED(imagesReady);
 

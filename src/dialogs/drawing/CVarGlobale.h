@@ -2,14 +2,14 @@
 // The drawing variables dialog: a large tabbed form of design values.
 // Nothing loads its fields and nothing stores them; its buttons do nothing.
 
-#include "app/BrimoForm.h"
+#include "forms/BrimoForm.h"
 
 namespace brimo {
 
 class CVarGlobale : public BrimoForm {
     Q_OBJECT
 public:
-    explicit CVarGlobale(MainModule& module);
+    CVarGlobale();
 };
 
 } // namespace brimo

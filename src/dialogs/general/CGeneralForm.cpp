@@ -1,16 +1,13 @@
 #include "dialogs/general/CGeneralForm.h"
 
-#include "app/DesignFont.h"
-
-#include "app/CChoixForm.h"
-#include "app/CommitFailureReport.h"
-#include "app/MainModule.h"
-#include "dialogs/about/CAboutForm.h"
 #include "dialogs/general/GeneralIcon.h"
 #include "dialogs/general/GeneralLoad.h"
 #include "dialogs/general/ProgramLocations.h"
-#include "legends/LegendNumbers.h"
-#include "platform/WindowServices.h"
+#include "forms/CommitFailureReport.h"
+#include "forms/DesignFont.h"
+#include "forms/WindowServices.h"
+#include "model/LegendNumbers.h"
+#include "model/UserLegends.h"
 #include "platform/WindowsPaths.h"
 
 #include <QApplication>
@@ -46,7 +43,9 @@ Qt::CheckState checkStateOf(int value) {
 
 } // namespace
 
-CGeneralForm::CGeneralForm(MainModule& module) : BrimoForm(module) {
+CGeneralForm::CGeneralForm(Navigator& navigator, const InstallInfo& info, GeneralVariables& variables,
+                           LegendTable& legends, LegendFailureQuestion& legendQuestion)
+    : navigator_(navigator), info_(info), variables_(variables), legends_(legends), legendQuestion_(legendQuestion) {
     setObjectName(QStringLiteral("CGeneralForm"));
     setWindowTitle(QStringLiteral("Général"));
     setWindowIcon(GeneralWindowIcon());
@@ -54,7 +53,7 @@ CGeneralForm::CGeneralForm(MainModule& module) : BrimoForm(module) {
     setFixedSize(TwipsSize(7470, 4455));
     // The classic dialog font, so that six tabs fit in one row.
     setFont(DesignFont());
-    controls_ = BuildGeneralControls(this, module);
+    controls_ = BuildGeneralControls(this, legends_);
 
     // The focus starts on the control of tab index 0.
     control(u"cmdOK")->setFocus();
@@ -79,11 +78,11 @@ CGeneralForm::CGeneralForm(MainModule& module) : BrimoForm(module) {
 
 void CGeneralForm::Form_Load() {
     setCaptions(LoadButtonCaptions());
-    setWindowTitle(module_.GetLegends(Legend::GeneralTitle));
+    setWindowTitle(legends_.GetLegends(Legend::GeneralTitle));
     sweepTabs(LoadTabSweep());
     controls_.tabs->setCurrentIndex(0);
 
-    const GeneralVariables& variables = module_.generalVariables;
+    const GeneralVariables& variables = variables_;
     for (const char* name : kLoadedTextFields) {
         QLineEdit* field = textField(QLatin1String(name));
         field->setText(variables.text(QString::fromLatin1(FindGeneralControl(QLatin1String(name))->key)));
@@ -103,9 +102,9 @@ void CGeneralForm::Form_Load() {
 void CGeneralForm::SSTab1_Click() { setCaptions(TabCaptionTable(controls_.tabs->currentIndex())); }
 
 void CGeneralForm::Option5_Click(int index) {
-    module_.generalVariables.setText(u"x_lang", QLatin1String(kLanguageCodes[static_cast<std::size_t>(index)]));
-    module_.LoadLegends();
-    setWindowTitle(module_.GetLegends(Legend::GeneralTitle));
+    variables_.setText(u"x_lang", QLatin1String(kLanguageCodes[static_cast<std::size_t>(index)]));
+    LoadUserLegends(legends_, info_, variables_, legendQuestion_);
+    setWindowTitle(legends_.GetLegends(Legend::GeneralTitle));
 
     // While the tabs pass by the focus waits on the tab bar: left on a page,
     // it would wander through the fields of each tab and run their rules.
@@ -122,29 +121,28 @@ void CGeneralForm::cmdOK_Click() {
         refuseUnwritableQuote(*field);
         return;
     }
-    const InstallInfo& info = module_.installInfo;
     const CommitOutcome outcome =
-        CommitVariables(GeneLispPath(info), BrimoIniPath(info), kSection, ComposeGeneralCommit(state));
+        CommitVariables(GeneLispPath(info_), BrimoIniPath(info_), kSection, ComposeGeneralCommit(state));
     if (!outcome.ok) {
-        ReportCommitFailureAndEnd(module_, outcome);
+        ReportCommitFailureAndEnd(navigator_, outcome);
         return;
     }
-    module_.End(0);
+    navigator_.End(0);
 }
 
-void CGeneralForm::CmdCancel_Click() { module_.End(0); }
+void CGeneralForm::CmdCancel_Click() { navigator_.End(0); }
 
 void CGeneralForm::Command7_Click() {
-    module_.Show<CChoixForm>();
+    navigator_.Show(FormKind::Chooser);
     close();
 }
 
-void CGeneralForm::cmdAbout_Click() { module_.Show<CAboutForm>(); }
+void CGeneralForm::cmdAbout_Click() { navigator_.Show(FormKind::About); }
 
 void CGeneralForm::ProgramLocation_Click(const ProgramLocation& location) {
     QLineEdit* field = textField(QLatin1String(location.field));
-    QFileDialog dialog(this, module_.GetLegends(location.titleLegend), QString(),
-                       ToolkitFileFilter(module_.GetLegends(kProgramFilterLegend)));
+    QFileDialog dialog(this, legends_.GetLegends(location.titleLegend), QString(),
+                       ToolkitFileFilter(legends_.GetLegends(kProgramFilterLegend)));
     dialog.setOption(QFileDialog::DontUseNativeDialog);
     dialog.setAcceptMode(QFileDialog::AcceptOpen);
     // Any name comes back, also one of a file that does not exist.
@@ -158,13 +156,13 @@ void CGeneralForm::ProgramLocation_Click(const ProgramLocation& location) {
 }
 
 void CGeneralForm::setCaptions(std::span<const CaptionRow> rows) {
-    for (const CaptionRow& row : rows) SetCaption(control(QLatin1String(row.control)), module_.GetLegends(row.legend));
+    for (const CaptionRow& row : rows) SetCaption(control(QLatin1String(row.control)), legends_.GetLegends(row.legend));
 }
 
 void CGeneralForm::sweepTabs(std::span<const SweepStep> steps) {
     for (const SweepStep& step : steps) {
         controls_.tabs->setCurrentIndex(step.tab);
-        controls_.tabs->setTabText(controls_.tabs->currentIndex(), module_.GetLegends(step.legend));
+        controls_.tabs->setTabText(controls_.tabs->currentIndex(), legends_.GetLegends(step.legend));
     }
 }
 

@@ -1,12 +1,19 @@
 #pragma once
 // The general settings: six tabs of fields, options and check boxes, filled
 // from GeneralVariables at load, worded from the legends, written to
-// Brimo_Gene.lsp and Brimo.ini by OK.
+// Brimo_Gene.lsp and Brimo.ini by OK. It is handed the installation
+// settings, the general variables it loads (and whose x_lang the language
+// switch changes), the legends it reads and reloads with the question of a
+// failed load, and the navigator for the other forms and the end.
 
-#include "app/BrimoForm.h"
 #include "dialogs/general/GeneralCaptions.h"
-#include "dialogs/general/GeneralCommit.h"
 #include "dialogs/general/GeneralLayout.h"
+#include "forms/BrimoForm.h"
+#include "forms/Navigator.h"
+#include "model/GeneralCommit.h"
+#include "model/GeneralVariables.h"
+#include "model/InstallInfo.h"
+#include "model/LegendTable.h"
 
 class QCheckBox;
 class QLineEdit;
@@ -19,11 +26,10 @@ struct ProgramLocation;
 class CGeneralForm : public BrimoForm {
     Q_OBJECT
 public:
-    explicit CGeneralForm(MainModule& module);
+    CGeneralForm(Navigator& navigator, const InstallInfo& info, GeneralVariables& variables, LegendTable& legends,
+                 LegendFailureQuestion& legendQuestion);
 
     void Form_Load() override;
-
-protected:
 
 private:
     // Event handlers, named after their controls.
@@ -47,6 +53,11 @@ private:
     QRadioButton* option(QAnyStringView name) const;
     QCheckBox* checkBox(QAnyStringView name) const;
 
+    Navigator& navigator_;
+    const InstallInfo& info_;
+    GeneralVariables& variables_;
+    LegendTable& legends_;
+    LegendFailureQuestion& legendQuestion_;
     GeneralControls controls_;
 };
 

@@ -1,6 +1,6 @@
 #include "dialogs/general/GeneralCaptions.h"
 
-#include "legends/LegendNumbers.h"
+#include "model/LegendNumbers.h"
 
 namespace brimo {
 

@@ -1,8 +1,8 @@
 #include "dialogs/general/GeneralLayout.h"
 
-#include "dialogs/general/FieldRules.h"
-#include "dialogs/general/RuleField.h"
-#include "platform/WindowServices.h"
+#include "forms/RuleField.h"
+#include "forms/WindowServices.h"
+#include "model/FieldRules.h"
 
 #include <QCheckBox>
 #include <QGroupBox>
@@ -253,7 +253,7 @@ protected:
     void nextCheckState() override { setCheckState(checkState() == Qt::Checked ? Qt::Unchecked : Qt::Checked); }
 };
 
-QWidget* createControl(const ControlRow& row, QWidget* parent, MainModule& module) {
+QWidget* createControl(const ControlRow& row, QWidget* parent, const LegendTable& legends) {
     const QString caption = QString::fromUtf8(row.caption);
     switch (row.kind) {
     case K::Frame: return new QGroupBox(caption, parent);
@@ -265,7 +265,7 @@ QWidget* createControl(const ControlRow& row, QWidget* parent, MainModule& modul
     case K::RuleText: {
         const FieldRule* rule = FindFieldRule(GeneralFieldRules(), QString::fromLatin1(row.name));
         Q_ASSERT(rule);
-        auto* text = new RuleField(*rule, module, parent);
+        auto* text = new RuleField(*rule, legends, parent);
         text->setText(caption);
         if (rule->kind != RuleKind::TextRule) text->setAlignment(Qt::AlignCenter);
         return text;
@@ -287,10 +287,10 @@ QWidget* createControl(const ControlRow& row, QWidget* parent, MainModule& modul
     return nullptr;
 }
 
-void buildTable(std::span<const ControlRow> table, QWidget* base, GeneralControls& controls, MainModule& module) {
+void buildTable(std::span<const ControlRow> table, QWidget* base, GeneralControls& controls, const LegendTable& legends) {
     for (const ControlRow& row : table) {
         QWidget* parent = *row.parent ? controls.byName.value(QLatin1String(row.parent)) : base;
-        QWidget* control = createControl(row, parent, module);
+        QWidget* control = createControl(row, parent, legends);
         control->setObjectName(QLatin1String(row.name));
         PlaceInTwips(control, row.left, row.top, row.width, row.height);
         if (row.state == DesignState::Selected) static_cast<QRadioButton*>(control)->setChecked(true);
@@ -310,7 +310,7 @@ const ControlRow* FindGeneralControl(QAnyStringView name) {
     return nullptr;
 }
 
-GeneralControls BuildGeneralControls(QWidget* form, MainModule& module) {
+GeneralControls BuildGeneralControls(QWidget* form, const LegendTable& legends) {
     GeneralControls controls;
     controls.tabs = new QTabWidget(form);
     controls.tabs->setObjectName(QStringLiteral("SSTab1"));
@@ -321,9 +321,9 @@ GeneralControls BuildGeneralControls(QWidget* form, MainModule& module) {
     for (const TabTable& tab : kTabs) {
         auto* page = new QWidget;
         controls.tabs->addTab(page, QString::fromUtf8(tab.caption));
-        buildTable(tab.controls, page, controls, module);
+        buildTable(tab.controls, page, controls, legends);
     }
-    buildTable(kButtons, form, controls, module);
+    buildTable(kButtons, form, controls, legends);
 
     auto* ok = static_cast<QPushButton*>(controls.byName.value(QStringLiteral("cmdOK")));
     ok->setDefault(true);

@@ -12,7 +12,7 @@ class QWidget;
 
 namespace brimo {
 
-class MainModule;
+class LegendTable;
 
 enum class ControlKind {
     Frame,    // a group box
@@ -46,8 +46,8 @@ struct GeneralControls {
 };
 
 // Builds SSTab1 and every control on `form`, at their design state, and sets
-// the tab order.
-GeneralControls BuildGeneralControls(QWidget* form, MainModule& module);
+// the tab order. The fields with a rule refuse their texts in `legends`.
+GeneralControls BuildGeneralControls(QWidget* form, const LegendTable& legends);
 
 // Sets a control's caption: a frame's title, a label's or a button's text.
 void SetCaption(QWidget* control, const QString& caption);

@@ -3,7 +3,7 @@
 // controls: the text fields in their order of filling, the option buttons
 // that stored values select, and the states of the check boxes.
 
-#include "store/GeneralVariables.h"
+#include "model/GeneralVariables.h"
 
 #include <QStringList>
 

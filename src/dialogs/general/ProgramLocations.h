@@ -3,7 +3,7 @@
 // location field beside it, and the translations between the dialog and the
 // Windows-style texts that the fields hold.
 
-#include "legends/LegendNumbers.h"
+#include "model/LegendNumbers.h"
 
 #include <QString>
 

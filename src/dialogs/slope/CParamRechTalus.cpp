@@ -1,14 +1,11 @@
 #include "dialogs/slope/CParamRechTalus.h"
 
-#include "app/DesignFont.h"
-
-#include "app/CommitFailureReport.h"
-#include "app/MainModule.h"
-#include "dialogs/about/CAboutForm.h"
-#include "dialogs/general/RuleField.h"
 #include "dialogs/slope/SketchLayer.h"
 #include "dialogs/slope/SlopeControls.h"
-#include "platform/WindowServices.h"
+#include "forms/CommitFailureReport.h"
+#include "forms/DesignFont.h"
+#include "forms/RuleField.h"
+#include "forms/WindowServices.h"
 
 #include <QCheckBox>
 #include <QGroupBox>
@@ -48,7 +45,8 @@ bool takesFocus(SlopeControlKind kind) {
 
 } // namespace
 
-CParamRechTalus::CParamRechTalus(MainModule& module) : BrimoForm(module) {
+CParamRechTalus::CParamRechTalus(Navigator& navigator, const InstallInfo& info, const LegendTable& legends)
+    : navigator_(navigator), info_(info), legends_(legends) {
     setObjectName(QStringLiteral("CParamRechTalus"));
     setWindowTitle(QStringLiteral("Paramètre de recherche pied de talus"));
     useFixedBorder();
@@ -98,7 +96,7 @@ QWidget* CParamRechTalus::createControl(const SlopeControl& entry, QWidget* pare
         return option;
     }
     case SlopeControlKind::TextField: {
-        auto* field = new RuleField(*FindFieldRule(SlopeFieldRules(), QString::fromLatin1(entry.name)), module_, parent);
+        auto* field = new RuleField(*FindFieldRule(SlopeFieldRules(), QString::fromLatin1(entry.name)), legends_, parent);
         field->setText(caption);
         field->setAlignment(Qt::AlignCenter);
         return field;
@@ -155,17 +153,17 @@ SlopeControlState CParamRechTalus::ControlState() const {
 }
 
 void CParamRechTalus::Command1_Click() {
-    const CommitOutcome outcome = CommitSlopeVariables(module_.installInfo, ControlState());
+    const CommitOutcome outcome = CommitSlopeVariables(info_, ControlState());
     if (!outcome.ok) {
-        ReportCommitFailureAndEnd(module_, outcome);
+        ReportCommitFailureAndEnd(navigator_, outcome);
         return;
     }
-    module_.End(0);
+    navigator_.End(0);
 }
 
-void CParamRechTalus::CmdCancel_Click() { module_.End(0); }
+void CParamRechTalus::CmdCancel_Click() { navigator_.End(0); }
 
-void CParamRechTalus::cmdAbout_Click() { module_.Show<CAboutForm>(); }
+void CParamRechTalus::cmdAbout_Click() { navigator_.Show(FormKind::About); }
 
 template <class Control> Control* CParamRechTalus::control(const char* name) const {
     return findChild<Control*>(QLatin1String(name));

@@ -2,9 +2,14 @@
 // The slope-toe search dialog: eight parameters of the add-on's search,
 // opened with the form's own values and written to Brimo_Talus.lsp and
 // section Brimo_Talus of Brimo.ini by Command1, which ends the program.
+// It is handed the installation settings (where the files lie), the legends
+// of its refusal message, and the navigator for the about window and the end.
 
-#include "app/BrimoForm.h"
-#include "dialogs/slope/SlopeCommit.h"
+#include "forms/BrimoForm.h"
+#include "forms/Navigator.h"
+#include "model/InstallInfo.h"
+#include "model/LegendTable.h"
+#include "model/SlopeCommit.h"
 
 class QStyle;
 
@@ -15,7 +20,7 @@ struct SlopeControl;
 class CParamRechTalus : public BrimoForm {
     Q_OBJECT
 public:
-    explicit CParamRechTalus(MainModule& module);
+    CParamRechTalus(Navigator& navigator, const InstallInfo& info, const LegendTable& legends);
 
     void Form_Load() override;
 
@@ -28,9 +33,6 @@ public:
     // What the commit reads of the controls.
     SlopeControlState ControlState() const;
 
-protected:
-    // Escape closes no window here: the form has no cancel button.
-
 private:
     QWidget* createControl(const SlopeControl& control, QWidget* parent);
     void drawSketches();
@@ -39,6 +41,9 @@ private:
     void untickOtherWhenTicked(const char* own, const char* other);
     template <class Control> Control* control(const char* name) const;
 
+    Navigator& navigator_;
+    const InstallInfo& info_;
+    const LegendTable& legends_;
     QStyle* frameStyle_ = nullptr;
 };
 

@@ -1,6 +1,6 @@
 #include "dialogs/slope/SketchLayer.h"
 
-#include "platform/WindowServices.h"
+#include "forms/WindowServices.h"
 
 #include <QPainter>
 

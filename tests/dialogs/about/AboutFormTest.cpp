@@ -1,9 +1,9 @@
 // The about window: its controls, what its load step puts on it, and its
 // two buttons.
 
-#include "app/MainModule.h"
 #include "dialogs/about/CAboutForm.h"
-#include "platform/WindowServices.h"
+#include "forms/WindowServices.h"
+#include "support/FormServices.h"
 #include "support/ScratchPrefix.h"
 
 #include <QApplication>
@@ -23,17 +23,17 @@ class AboutFormTest : public QObject {
     QPushButton* button(CAboutForm* form, const char* name) { return form->findChild<QPushButton*>(name); }
 
     // A legend file whose lines 54 and 56 carry the two legends of the window.
-    void writeLegends(MainModule& module, const char* legend54, const char* legend56) {
+    void writeLegends(test::FormServices& services, const char* legend54, const char* legend56) {
         QByteArray lines;
         for (int n = 1; n <= 60; ++n) {
             const char* text = n == 54 ? legend54 : n == 56 ? legend56 : "autre";
             lines += QByteArray("L") + QByteArray::number(n).rightJustified(3, '0') + ' ' + test::cp1252(text) + "\r\n";
         }
-        module.installInfo.Zorel = QStringLiteral("C:\\Zorel");
-        prefix_->write(QStringLiteral("C:\\Zorel\\Lang\\ZorelMsg_") + module.generalVariables.text(u"x_lang") +
+        services.info.Zorel = QStringLiteral("C:\\Zorel");
+        prefix_->write(QStringLiteral("C:\\Zorel\\Lang\\ZorelMsg_") + services.variables.text(u"x_lang") +
                            QStringLiteral(".txt"),
                        lines);
-        QVERIFY(module.LoadLegends() == 60);
+        QVERIFY(services.loadLegends() == 60);
     }
 
 private slots:
@@ -41,8 +41,8 @@ private slots:
     void cleanup() { prefix_.reset(); }
 
     void windowAsDrawn() {
-        MainModule module;
-        CAboutForm* about = module.Show<CAboutForm>();
+        test::FormServices services;
+        CAboutForm* about = services.show(new CAboutForm(services.info, services.legends));
         QCOMPARE(about->windowTitle(), QStringLiteral("About"));
         QCOMPARE(about->size(), TwipsSize(4605, 3945));
         QCOMPARE(about->minimumSize(), about->maximumSize());
@@ -83,8 +83,8 @@ private slots:
 
     // The title is two bold 18-point layers, yellow below and red above.
     void titleIsTwoLayers() {
-        MainModule module;
-        CAboutForm* about = module.Show<CAboutForm>();
+        test::FormServices services;
+        CAboutForm* about = services.show(new CAboutForm(services.info, services.legends));
         auto* yellow = about->findChild<QLabel*>("txt_about(0)");
         auto* red = about->findChild<QLabel*>("txt_about(10)");
         for (QLabel* layer : {yellow, red}) {
@@ -117,11 +117,11 @@ private slots:
         QFETCH(QString, zorelVersion);
         QFETCH(QString, acadVersion);
         QFETCH(QStringList, shown);
-        MainModule module;
-        module.installInfo.No_serie_acad = serial;
-        module.installInfo.No_version_Zorel = zorelVersion;
-        module.installInfo.No_version_acad = acadVersion;
-        CAboutForm* about = module.Show<CAboutForm>();
+        test::FormServices services;
+        services.info.No_serie_acad = serial;
+        services.info.No_version_Zorel = zorelVersion;
+        services.info.No_version_acad = acadVersion;
+        CAboutForm* about = services.show(new CAboutForm(services.info, services.legends));
         const char* labels[] = {"txt_about(6)", "txt_about(8)", "txt_about(9)"};
         for (int i = 0; i < 3; ++i) {
             auto* composed = about->findChild<QLabel*>(labels[i]);
@@ -129,9 +129,9 @@ private slots:
             QVERIFY2(composed->sizeHint().width() <= composed->width(), labels[i]);
         }
         // The display defaults stay in the installation settings.
-        QCOMPARE(module.installInfo.No_serie_acad, shown[0].mid(18));
-        QCOMPARE(module.installInfo.No_version_Zorel, shown[1].mid(15));
-        QCOMPARE(module.installInfo.No_version_acad, shown[2].mid(16));
+        QCOMPARE(services.info.No_serie_acad, shown[0].mid(18));
+        QCOMPARE(services.info.No_version_Zorel, shown[1].mid(15));
+        QCOMPARE(services.info.No_version_acad, shown[2].mid(16));
     }
 
     void loadTakesLegends_data() {
@@ -143,9 +143,9 @@ private slots:
     void loadTakesLegends() {
         QFETCH(QByteArray, legend54);
         QFETCH(QByteArray, legend56);
-        MainModule module;
-        writeLegends(module, legend54.constData(), legend56.constData());
-        CAboutForm* about = module.Show<CAboutForm>();
+        test::FormServices services;
+        writeLegends(services, legend54.constData(), legend56.constData());
+        CAboutForm* about = services.show(new CAboutForm(services.info, services.legends));
         QCOMPARE(button(about, "Command1")->text(), QString::fromUtf8(legend54));
         QCOMPARE(label(about, "txt_about(4)"), QString::fromUtf8(legend56));
         QCOMPARE(label(about, "txt_about(8)"), QStringLiteral("Zorel  version 2009"));
@@ -153,8 +153,8 @@ private slots:
     }
 
     void emptyLegendTableLeavesEmptyTexts() {
-        MainModule module;
-        CAboutForm* about = module.Show<CAboutForm>();
+        test::FormServices services;
+        CAboutForm* about = services.show(new CAboutForm(services.info, services.legends));
         QCOMPARE(button(about, "Command1")->text(), QString());
         QCOMPARE(label(about, "txt_about(4)"), QString());
     }
@@ -175,21 +175,20 @@ private slots:
         QFETCH(QString, toolFile);
         QFETCH(bool, enabled);
         if (!toolFile.isEmpty()) prefix_->write(toolFile, "MZ");
-        MainModule module;
-        CAboutForm* about = module.Show<CAboutForm>();
+        test::FormServices services;
+        CAboutForm* about = services.show(new CAboutForm(services.info, services.legends));
         QCOMPARE(button(about, "Command1")->isEnabled(), enabled);
     }
 
     void okIsDefaultHoldsFocusAndCloses() {
-        MainModule module;
-        CAboutForm* about = module.Show<CAboutForm>();
+        test::FormServices services;
+        CAboutForm* about = services.show(new CAboutForm(services.info, services.legends));
         QVERIFY(QTest::qWaitForWindowActive(about));
         QCOMPARE(QApplication::focusWidget(), button(about, "cmdOK"));
         QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
         QCOMPARE(QApplication::focusWidget(), button(about, "cmdOK")); // Command1 is disabled
         QTest::keyClick(about, Qt::Key_Return);
         QVERIFY(!about->isVisible());
-        QCOMPARE(module.Window<CAboutForm>(), nullptr);
     }
 };
 

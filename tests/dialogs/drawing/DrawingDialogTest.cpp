@@ -2,10 +2,9 @@
 // sample of design values checked against the form as drawn, and buttons
 // that do nothing.
 
-#include "app/MainModule.h"
 #include "dialogs/drawing/CVarGlobale.h"
 #include "dialogs/drawing/DrawingControls.h"
-#include "platform/WindowServices.h"
+#include "forms/WindowServices.h"
 #include "support/ScratchPrefix.h"
 
 #include <QAbstractButton>
@@ -42,13 +41,16 @@ int tabOf(QWidget* widget, QTabWidget* tabs) {
 class DrawingDialogTest : public QObject {
     Q_OBJECT
     test::ScratchPrefix prefix_;
-    MainModule module_;
     CVarGlobale* dialog_ = nullptr;
 
     template <class W = QWidget> W* control(const QString& name) { return dialog_->findChild<W*>(name); }
 
 private slots:
-    void init() { dialog_ = module_.Show<CVarGlobale>(); }
+    void init() {
+        dialog_ = new CVarGlobale;
+        dialog_->Form_Load();
+        dialog_->show();
+    }
     void cleanup() { dialog_->close(); }
 
     void windowAsDrawn() {
@@ -184,7 +186,7 @@ private slots:
         control<QLineEdit>("Val15")->setText("Bureau Dupont");
         dialog_->close();
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-        dialog_ = module_.Show<CVarGlobale>();
+        init();
         QCOMPARE(control<QLineEdit>("Val15")->text(), QStringLiteral("Nom du bureau"));
         QCOMPARE(control<QTabWidget>("SSTab1")->currentIndex(), 2);
     }

@@ -2,7 +2,6 @@
 // tab, and at a switch of language, also when the legend file is missing.
 #include "GeneralFormFixture.h"
 
-#include "app/CChoixForm.h"
 
 #include <QLineEdit>
 #include <QPushButton>
@@ -71,7 +70,7 @@ TEST_F(GeneralCaptionsTest, LoadWordsEveryTabFromTheLegendsAndOpensOnTheFirst) {
     expectLoadButtons("FRA");
     EXPECT_EQ(find<QTabWidget>("SSTab1")->currentIndex(), 0);
     EXPECT_EQ(QApplication::focusWidget(), find<QPushButton>("cmdOK"));
-    EXPECT_EQ(legendQuestions, 0);
+    EXPECT_EQ(legendQuestions(), 0);
 }
 
 TEST_F(GeneralCaptionsTest, AChangeOfTabWordsThatTabAgain) {
@@ -90,7 +89,7 @@ TEST_F(GeneralCaptionsTest, SwitchingToGermanRewordsAllTabsAndKeepsEveryValue) {
     val15->setText("Mon bureau");
     clickOption("Option5(2)");
 
-    EXPECT_EQ(module->generalVariables.text(u"x_lang"), "DEU");
+    EXPECT_EQ(services->variables.text(u"x_lang"), "DEU");
     EXPECT_EQ(find<QTabWidget>("SSTab1")->currentIndex(), 4);
     EXPECT_TRUE(find<QRadioButton>("Option5(2)")->isChecked());
     expectLegendCaptions("DEU");
@@ -101,7 +100,7 @@ TEST_F(GeneralCaptionsTest, SwitchingToGermanRewordsAllTabsAndKeepsEveryValue) {
     EXPECT_FALSE(prefix.exists(kIniPath));
 
     find<QPushButton>("CmdCancel")->click();
-    EXPECT_EQ(ends, QList<int>{0});
+    EXPECT_EQ(ends(), QList<int>{0});
     EXPECT_FALSE(prefix.exists(kLispPath));
     EXPECT_FALSE(prefix.exists(kIniPath));
 }
@@ -119,13 +118,13 @@ TEST_F(GeneralCaptionsTest, AFailedReloadEmptiesTheCaptionsAndAGoodOneBringsThem
     open();
     removeLegends("DEU");
     clickOption("Option5(2)");
-    EXPECT_EQ(legendQuestions, 1);
-    EXPECT_EQ(module->generalVariables.text(u"x_lang"), "DEU");
+    EXPECT_EQ(legendQuestions(), 1);
+    EXPECT_EQ(services->variables.text(u"x_lang"), "DEU");
     expectLegendCaptions("");
     expectLoadButtons("FRA");
 
     clickOption("Option5(0)");
-    EXPECT_EQ(legendQuestions, 1);
+    EXPECT_EQ(legendQuestions(), 1);
     expectLegendCaptions("FRA");
     EXPECT_EQ(find<QTabWidget>("SSTab1")->currentIndex(), 4);
 }
@@ -137,14 +136,14 @@ TEST_F(GeneralCaptionsTest, StoredGermanOpensOnTheLanguageTabInGerman) {
     EXPECT_TRUE(find<QRadioButton>("Option5(2)")->isChecked());
     expectLegendCaptions("DEU");
     expectLoadButtons("DEU");
-    EXPECT_EQ(legendQuestions, 0);
+    EXPECT_EQ(legendQuestions(), 0);
 }
 
 TEST_F(GeneralCaptionsTest, StoredGermanWithoutItsFileAsksTwiceAndShowsNoLegend) {
     writeBrimoIni("[Brimo_Gene]\r\nx_lang=DEU\r\n");
     removeLegends("DEU");
     open();
-    EXPECT_EQ(legendQuestions, 2);
+    EXPECT_EQ(legendQuestions(), 2);
     expectLegendCaptions("");
     EXPECT_EQ(captionOf("Command7"), "");
 }
@@ -167,11 +166,11 @@ TEST_F(GeneralCaptionsTest, ReopenedFromTheChooserItKeepsTheNewLanguageAndForget
     find<QLineEdit>("Val15")->setText("Mon bureau");
     find<QPushButton>("Command7")->click();
     QCoreApplication::processEvents();
-    EXPECT_NE(module->Window<CChoixForm>(), nullptr);
-    EXPECT_EQ(module->Window<CGeneralForm>(), nullptr);
-    EXPECT_TRUE(ends.isEmpty());
+    EXPECT_EQ(services->shown, QList<FormKind>{FormKind::Chooser});
+    EXPECT_FALSE(form->isVisible());
+    EXPECT_TRUE(ends().isEmpty());
 
-    form = module->Show<CGeneralForm>();
+    reopen();
     expectLoadButtons("DEU");
     expectLegendCaptions("DEU");
     EXPECT_EQ(find<QLineEdit>("Val15")->text(), "Nom du bureau");

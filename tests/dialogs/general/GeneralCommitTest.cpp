@@ -78,7 +78,7 @@ TEST_F(GeneralCommitTest, OkFromTheDefaultsWritesBothFilesAndEnds) {
     EXPECT_EQ(lisp(), expected);
     EXPECT_TRUE(lisp().contains(QByteArray("(setq x_lang \"FRA\"); Langue fran\xE7" "ais \r\n")));
     EXPECT_EQ(ini(), crlfFile(defaultIniLines()));
-    EXPECT_EQ(ends, QList<int>{0});
+    EXPECT_EQ(ends(), QList<int>{0});
     EXPECT_TRUE(messages.isEmpty());
 }
 
@@ -94,7 +94,7 @@ TEST_F(GeneralCommitTest, EnterInAFieldCommitsItsTextUntested) {
     replaceLine(lines, "(setq cadre_usery", "(setq cadre_usery abc) ;Largeur du cadre users");
     EXPECT_EQ(lisp(), crlfFile(lines));
     EXPECT_TRUE(messages.isEmpty()) << "no rule ran";
-    EXPECT_EQ(ends, QList<int>{0});
+    EXPECT_EQ(ends(), QList<int>{0});
 }
 
 TEST_F(GeneralCommitTest, StoredValuesOutsideTheOptionsAndAGreyCheckBox) {
@@ -173,7 +173,7 @@ TEST_F(GeneralCommitTest, ADoubleQuoteInAQuotedFieldIsRefusedWithEveryEditKept) 
     EXPECT_EQ(QApplication::focusWidget(), val15);
     EXPECT_EQ(val15->text(), "Bureau \"Nord\"");
     EXPECT_EQ(val0->text(), "900");
-    EXPECT_TRUE(ends.isEmpty());
+    EXPECT_TRUE(ends().isEmpty());
     EXPECT_FALSE(prefix.exists(kLispPath));
     EXPECT_FALSE(prefix.exists(kIniPath));
 
@@ -185,18 +185,18 @@ TEST_F(GeneralCommitTest, ADoubleQuoteInAQuotedFieldIsRefusedWithEveryEditKept) 
     ASSERT_EQ(messages.size(), 2);
     EXPECT_TRUE(messages[1].text.contains("path_win5"));
     EXPECT_EQ(tabs->currentIndex(), 5);
-    EXPECT_TRUE(ends.isEmpty());
+    EXPECT_TRUE(ends().isEmpty());
 }
 
 // A commit that cannot write shows one message naming the file, changes
-// nothing and ends with status 1.
+// nothing and ends() with status 1.
 TEST_F(GeneralCommitTest, AFolderThatIsMissingEndsWithAReport) {
     open();
     QDir(prefix.native("C:\\Zorel\\Var\\jo")).removeRecursively();
     find<QPushButton>("cmdOK")->click();
     ASSERT_EQ(messages.size(), 1);
     EXPECT_TRUE(messages[0].text.contains(kLispPath));
-    EXPECT_EQ(ends, QList<int>{1});
+    EXPECT_EQ(ends(), QList<int>{1});
     EXPECT_FALSE(prefix.exists("C:\\Zorel\\Var\\jo"));
 }
 
@@ -209,7 +209,7 @@ TEST_F(GeneralCommitTest, AReadOnlyBrimoIniEndsWithAReportAndNothingChanged) {
     find<QPushButton>("cmdOK")->click();
     ASSERT_EQ(messages.size(), 1);
     EXPECT_TRUE(messages[0].text.contains(kIniPath));
-    EXPECT_EQ(ends, QList<int>{1});
+    EXPECT_EQ(ends(), QList<int>{1});
     EXPECT_EQ(ini(), before);
     EXPECT_EQ(lisp(), "old");
 }
@@ -221,7 +221,7 @@ TEST_F(GeneralCommitTest, AFolderWhereBrimoIniShouldBeEndsWithAReportAndNothingC
     find<QPushButton>("cmdOK")->click();
     ASSERT_EQ(messages.size(), 1);
     EXPECT_TRUE(messages[0].text.contains(kIniPath));
-    EXPECT_EQ(ends, QList<int>{1});
+    EXPECT_EQ(ends(), QList<int>{1});
     EXPECT_EQ(lisp(), "old");
 }
 

@@ -8,24 +8,6 @@
 
 namespace brimo::test {
 
-namespace {
-
-// Answers No to the legend question, and counts it.
-class RecordingQuestion : public LegendFailureQuestion {
-public:
-    explicit RecordingQuestion(int& count) : count_(count) {}
-    bool ask(const QString&, const QString&) override {
-        ++count_;
-        return false;
-    }
-    void endProgram() override {}
-
-private:
-    int& count_;
-};
-
-} // namespace
-
 void GeneralFormTest::SetUp() {
     prefix.writeZorelIni(QStringLiteral("C:\\Zorel"), QStringLiteral("C:\\Zorel\\Var"), QStringLiteral("jo"));
     prefix.makeFolder(QStringLiteral("C:\\Zorel\\Var\\jo"));
@@ -35,13 +17,11 @@ void GeneralFormTest::SetUp() {
         messages.append(call);
         return false;
     });
-    module = std::make_unique<MainModule>();
-    module->endProcess = [this](int status) { ends.append(status); };
-    module->setLegendQuestion(std::make_unique<RecordingQuestion>(legendQuestions));
+    services = std::make_unique<FormServices>();
 }
 
 void GeneralFormTest::TearDown() {
-    module.reset();
+    services.reset();
     SetMessageBoxAnswerer(nullptr);
 }
 
@@ -56,10 +36,13 @@ void GeneralFormTest::removeLegends(const QString& code) {
 }
 
 CGeneralForm* GeneralFormTest::open() {
-    LoadInstallInfo(module->installInfo);
-    LoadGeneralVariables(module->installInfo, module->generalVariables);
-    module->LoadLegends();
-    form = module->Show<CGeneralForm>();
+    services->load();
+    return reopen();
+}
+
+CGeneralForm* GeneralFormTest::reopen() {
+    form = services->show(
+        new CGeneralForm(*services, services->info, services->variables, services->legends, *services));
     form->activateWindow();
     EXPECT_TRUE(QTest::qWaitForWindowActive(form));
     return form;

@@ -1,11 +1,11 @@
 #pragma once
-// A scratch prefix with zorel.ini, legend files and Brimo.ini, a MainModule
-// loaded as the program's entry loads it, and CGeneralForm opened on it.
+// A scratch prefix with zorel.ini, legend files and Brimo.ini, the stores
+// loaded as the program's entry loads them, and CGeneralForm opened on them.
 // Ends, message boxes and legend questions are recorded, not acted on.
 
-#include "app/MainModule.h"
 #include "dialogs/general/CGeneralForm.h"
-#include "platform/WindowServices.h"
+#include "forms/WindowServices.h"
+#include "support/FormServices.h"
 #include "support/ScratchPrefix.h"
 
 #include <gtest/gtest.h>
@@ -33,6 +33,8 @@ protected:
 
     // Loads the three stores in the order of the program's entry, then opens the form.
     CGeneralForm* open();
+    // Opens the form anew on the stores as they are, as the chooser does.
+    CGeneralForm* reopen();
     template <class Widget> Widget* find(const QString& name) const {
         Widget* widget = form->findChild<Widget*>(name);
         EXPECT_NE(widget, nullptr) << name.toStdString();
@@ -45,11 +47,11 @@ protected:
     static inline const QString kIniPath = QStringLiteral("C:\\Zorel\\Var\\jo\\Brimo.ini");
 
     ScratchPrefix prefix;
-    std::unique_ptr<MainModule> module;
+    std::unique_ptr<FormServices> services;
     CGeneralForm* form = nullptr;
-    QList<int> ends;               // statuses of explicit ends
+    QList<int>& ends() const { return services->ends; }
     QList<MessageBoxCall> messages; // message boxes shown
-    int legendQuestions = 0;
+    int legendQuestions() const { return services->legendQuestions; }
 };
 
 } // namespace brimo::test

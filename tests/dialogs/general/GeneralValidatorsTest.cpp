@@ -115,7 +115,7 @@ TEST_F(GeneralValidatorsTest, LeavingAFieldRepairsOrRefusesItsText) {
         }
         find<QWidget>("cmdOK")->setFocus();
     }
-    EXPECT_TRUE(ends.isEmpty());
+    EXPECT_TRUE(ends().isEmpty());
 }
 
 } // namespace

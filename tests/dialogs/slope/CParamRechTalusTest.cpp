@@ -2,11 +2,10 @@
 // check boxes, the field rules through real focus changes, and what Command1
 // and CmdCancel leave in Brimo_Talus.lsp and Brimo.ini.
 
-#include "app/MainModule.h"
-#include "dialogs/about/CAboutForm.h"
 #include "dialogs/slope/CParamRechTalus.h"
 #include "dialogs/slope/SlopeControls.h"
-#include "platform/WindowServices.h"
+#include "forms/WindowServices.h"
+#include "support/FormServices.h"
 #include "support/ScratchPrefix.h"
 
 #include <QCheckBox>
@@ -88,8 +87,8 @@ QByteArray legendFile() {
 // of the process and the message boxes are recorded.
 struct SlopeSession {
     test::ScratchPrefix prefix;
-    MainModule module;
-    QList<int> ends;
+    test::FormServices services;
+    QList<int>& ends = services.ends;
     QList<MessageBoxCall> messages;
     CParamRechTalus* form = nullptr;
 
@@ -97,7 +96,6 @@ struct SlopeSession {
         prefix.writeZorelIni(QStringLiteral("C:\\Zorel"), QStringLiteral("C:\\Zorel\\Var"), actuel);
         prefix.write(QStringLiteral("C:\\Zorel\\Lang\\ZorelMsg_FRA.txt"), legendFile());
         prefix.makeFolder(QStringLiteral("C:\\Zorel\\Var\\Jean"));
-        module.endProcess = [this](int status) { ends.append(status); };
         SetMessageBoxAnswerer([this](const MessageBoxCall& call) {
             messages.append(call);
             return false;
@@ -106,10 +104,8 @@ struct SlopeSession {
     ~SlopeSession() { SetMessageBoxAnswerer({}); }
 
     void open() {
-        LoadInstallInfo(module.installInfo);
-        LoadGeneralVariables(module.installInfo, module.generalVariables);
-        module.LoadLegends();
-        form = module.Show<CParamRechTalus>();
+        services.load();
+        form = services.show(new CParamRechTalus(services, services.info, services.legends));
         form->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(form));
     }
@@ -385,8 +381,8 @@ void CParamRechTalusTest::aboutStandsBesideTheDialog() {
     SlopeSession s;
     s.open();
     QTest::mouseClick(s.find<QPushButton>("cmdAbout"), Qt::LeftButton);
-    QVERIFY(s.module.Window<CAboutForm>() != nullptr);
-    QVERIFY(s.module.Window<CParamRechTalus>() == s.form);
+    QCOMPARE(s.services.shown, QList<FormKind>{FormKind::About});
+    QVERIFY(s.form->isVisible());
     QVERIFY(s.ends.isEmpty());
 }
 

@@ -1,0 +1,16 @@
+#pragma once
+// Window kit (src/forms): what every form uses and nothing that knows a
+// particular form; it sees the model and the platform.
+//
+// What the user is told when a commit cannot write its files.
+
+#include "forms/Navigator.h"
+#include "model/VariableCommit.h"
+
+namespace brimo {
+
+// One message naming the file and the reason, then the end of the process
+// with a non-zero status. Nothing of either file has changed by then.
+void ReportCommitFailureAndEnd(Navigator& navigator, const CommitOutcome& outcome);
+
+} // namespace brimo

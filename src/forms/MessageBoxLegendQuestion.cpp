@@ -1,0 +1,9 @@
+#include "forms/MessageBoxLegendQuestion.h"
+
+#include "forms/WindowServices.h"
+
+namespace brimo {
+
+bool MessageBoxLegendQuestion::ask(const QString& text, const QString& title) { return AskYesNoCritical(text, title); }
+
+} // namespace brimo

@@ -1,0 +1,61 @@
+#include "forms/RuleField.h"
+
+#include "forms/WindowServices.h"
+#include "model/LegendNumbers.h"
+
+#include <QFocusEvent>
+#include <QStackedWidget>
+#include <QTabWidget>
+
+namespace brimo {
+
+namespace {
+// While a refusal is being shown and the focus put back, other fields that
+// lose the focus on the way do not run their rules: two fields holding bad
+// texts would otherwise take the focus from each other without end.
+bool refusalUnderway = false;
+} // namespace
+
+RuleField::RuleField(const FieldRule& rule, const LegendTable& legends, QWidget* parent)
+    : QLineEdit(parent), rule_(rule), legends_(legends) {
+    setObjectName(QString::fromLatin1(rule.control));
+}
+
+void RuleField::SelectAllOnEntry() { setSelection(0, static_cast<int>(text().size())); }
+
+void RuleField::ValidateOnLeave() {
+    const LeaveOutcome outcome = ApplyLeavingRule(rule_, text());
+    if (outcome.text != text()) setText(outcome.text);
+    if (!outcome.refused) return;
+
+    refusalUnderway = true;
+    ShowInformationBox(legends_.GetLegends(Legend::RefusalText), legends_.GetLegends(Legend::RefusalTitle));
+    bringForwardInTabs();
+    setFocus(Qt::OtherFocusReason);
+    refusalUnderway = false;
+}
+
+// A field on a tab that is not showing cannot hold the focus: show its tab.
+void RuleField::bringForwardInTabs() {
+    for (QWidget* child = this; child && child->parentWidget(); child = child->parentWidget()) {
+        auto* stack = qobject_cast<QStackedWidget*>(child->parentWidget());
+        if (!stack) continue;
+        if (auto* tabs = qobject_cast<QTabWidget*>(stack->parentWidget())) tabs->setCurrentWidget(child);
+    }
+}
+
+void RuleField::focusInEvent(QFocusEvent* event) {
+    QLineEdit::focusInEvent(event);
+    SelectAllOnEntry();
+}
+
+void RuleField::focusOutEvent(QFocusEvent* event) {
+    QLineEdit::focusOutEvent(event);
+    // Only a move of the focus inside the window is a leave; a window that
+    // goes to the background or a menu that opens is none.
+    if (event->reason() == Qt::ActiveWindowFocusReason || event->reason() == Qt::PopupFocusReason) return;
+    if (refusalUnderway) return;
+    ValidateOnLeave();
+}
+
+} // namespace brimo

@@ -1,0 +1,45 @@
+#pragma once
+// Window kit (src/forms): what every form uses and nothing that knows a
+// particular form; it sees the model and the platform.
+//
+// What the forms rely on of the window toolkit: twips, centring, the two
+// message boxes.
+
+#include <QRect>
+#include <QString>
+
+#include <functional>
+
+class QWidget;
+
+namespace brimo {
+
+// Twips to pixels at the screen's logical DPI (15 twips a pixel at 96 DPI).
+int TwipsToPixels(double twips);
+QRect TwipsRect(double left, double top, double width, double height);
+QSize TwipsSize(double width, double height);
+// Places a widget by twips inside its parent.
+void PlaceInTwips(QWidget* widget, double left, double top, double width, double height);
+
+// Screen size in twips.
+double ScreenWidthTwips();
+double ScreenHeightTwips();
+
+// Centres the window: Top = screen height / 2 - height / 2, then Left likewise.
+void CentreOnScreen(QWidget* window);
+
+// Tests answer the message boxes in place of a person: the answerer gets
+// the text, the title and the flags (4160 or 20) and returns true for Yes.
+struct MessageBoxCall {
+    QString text;
+    QString title;
+    int flags;
+};
+void SetMessageBoxAnswerer(std::function<bool(const MessageBoxCall&)> answerer);
+
+// Message box of flags 4160: information icon, one OK button, modal.
+void ShowInformationBox(const QString& text, const QString& title);
+// Message box of flags 20: critical icon, Yes and No; true for Yes.
+bool AskYesNoCritical(const QString& text, const QString& title);
+
+} // namespace brimo

@@ -1,0 +1,58 @@
+#include "model/GeneralVariables.h"
+
+#include "platform/ProfileFile.h"
+#include "platform/RegionalNumbers.h"
+
+#include <stdexcept>
+
+namespace brimo {
+
+namespace {
+const QString kSection = QStringLiteral("Brimo_Gene");
+}
+
+VariableValue DefaultValue(const GeneralVariableRow& entry) {
+    switch (entry.defaultKind) {
+    case DefaultKind::Int: return static_cast<qint16>(entry.defaultNumber);
+    case DefaultKind::Dbl: return entry.defaultNumber;
+    case DefaultKind::Txt: return QString::fromUtf8(entry.defaultText);
+    }
+    return QString();
+}
+
+GeneralVariables::GeneralVariables() { resetToDefaults(); }
+
+void GeneralVariables::resetToDefaults() {
+    for (std::size_t i = 0; i < values_.size(); ++i) values_[i] = DefaultValue(kGeneralVariableCatalogue[i]);
+}
+
+std::size_t GeneralVariables::indexOf(QAnyStringView key) {
+    for (std::size_t i = 0; i < kGeneralVariableCatalogue.size(); ++i)
+        if (QAnyStringView::compare(key, QLatin1String(kGeneralVariableCatalogue[i].key), Qt::CaseInsensitive) == 0) return i;
+    throw std::out_of_range("no general variable " + key.toString().toStdString());
+}
+
+const VariableValue& GeneralVariables::value(QAnyStringView key) const { return values_[indexOf(key)]; }
+
+QString GeneralVariables::text(QAnyStringView key) const {
+    const VariableValue& v = value(key);
+    if (const auto* s = std::get_if<QString>(&v)) return *s;
+    if (const auto* i = std::get_if<qint16>(&v)) return NumberToText(*i);
+    return NumberToText(std::get<double>(v));
+}
+
+void GeneralVariables::setText(QAnyStringView key, const QString& text) { values_[indexOf(key)] = text; }
+
+void GeneralVariables::setValue(QAnyStringView key, VariableValue value) { values_[indexOf(key)] = std::move(value); }
+
+void LoadGeneralVariables(const InstallInfo& info, GeneralVariables& variables) {
+    const ProfileDocument ini = LoadProfile(BrimoIniPath(info));
+    for (const GeneralVariableRow& entry : kGeneralVariableCatalogue) {
+        const QString key = QLatin1String(entry.key);
+        const QString read = ReadProfileString(ini, kSection, key);
+        if (read.isEmpty()) variables.setValue(key, DefaultValue(entry));
+        else variables.setText(key, read);
+    }
+}
+
+} // namespace brimo

@@ -1,0 +1,31 @@
+#pragma once
+// Model layer (src/model): installation settings, legends, variables and
+// Lisp files, without a window; it sees the platform alone.
+//
+// Where the add-on lies, where its variable files lie, who the user is, and
+// which versions are installed: six texts read once from zorel.ini.
+
+#include <QString>
+
+namespace brimo {
+
+struct InstallInfo {
+    QString Zorel;            // [Chemins] Zorel: install folder of the add-on
+    QString Variables;        // [Chemins] Variables: root of the variable files
+    QString actuel;           // [Users] actuel: current user; "Default" is held as ""
+    QString No_version_Zorel; // [VZorel]: displayed only
+    QString No_version_acad;  // [VZorel]: displayed only
+    QString No_serie_acad;    // [VZorel]: displayed only
+};
+
+// Reads the six values, in their order, from GetWindowsFolder() + "\zorel.ini".
+void LoadInstallInfo(InstallInfo& info);
+
+// Paths joined by plain concatenation: no separator is tested or added.
+QString ZorelIniPath();
+QString LegendFolder(const InstallInfo& info);   // Zorel + "\Lang\"
+QString BrimoIniPath(const InstallInfo& info);   // Variables + "\" + actuel + "\Brimo.ini"
+QString GeneLispPath(const InstallInfo& info);   // ... + "\Brimo_Gene.lsp"
+QString TalusLispPath(const InstallInfo& info);  // ... + "\Brimo_Talus.lsp"
+
+} // namespace brimo

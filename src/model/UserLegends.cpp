@@ -1,0 +1,10 @@
+#include "model/UserLegends.h"
+
+namespace brimo {
+
+int LoadUserLegends(LegendTable& table, const InstallInfo& info, const GeneralVariables& variables,
+                    LegendFailureQuestion& question) {
+    return table.LoadLegends(LegendFolder(info), variables.text(u"x_lang"), question);
+}
+
+} // namespace brimo

@@ -1,0 +1,60 @@
+#pragma once
+// What the program hands its forms, made in a test without the program: the
+// installation settings, the general variables and the legends loaded as the
+// entry loads them, a navigator that records the forms shown and the ends,
+// and a legend question that answers No and counts.
+
+#include "forms/Navigator.h"
+#include "model/GeneralVariables.h"
+#include "model/InstallInfo.h"
+#include "model/LegendTable.h"
+#include "model/UserLegends.h"
+
+#include <QList>
+#include <QPointer>
+#include <QWidget>
+
+namespace brimo::test {
+
+class FormServices : public Navigator, public LegendFailureQuestion {
+public:
+    ~FormServices() override {
+        for (const QPointer<QWidget>& form : forms_) delete form.data();
+    }
+
+    InstallInfo info;
+    GeneralVariables variables;
+    LegendTable legends;
+    QList<FormKind> shown; // forms asked for, in order
+    QList<int> ends;       // statuses of explicit ends
+    int legendQuestions = 0;
+
+    void Show(FormKind form) override { shown.append(form); }
+    void End(int status) override { ends.append(status); }
+    bool ask(const QString&, const QString&) override {
+        ++legendQuestions;
+        return false;
+    }
+    void endProgram() override {}
+
+    // The three loads in the order of the program's entry.
+    void load() {
+        LoadInstallInfo(info);
+        LoadGeneralVariables(info, variables);
+        loadLegends();
+    }
+    int loadLegends() { return LoadUserLegends(legends, info, variables, *this); }
+
+    // Shows a form as the program does: its load step, then its window.
+    template <class Form> Form* show(Form* form) {
+        forms_.append(form);
+        form->Form_Load();
+        form->show();
+        return form;
+    }
+
+private:
+    QList<QPointer<QWidget>> forms_;
+};
+
+} // namespace brimo::test
