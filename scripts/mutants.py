@@ -15,6 +15,7 @@ is found again when lines move; a point whose line is gone is reported.
     scripts/mutants.py                 # every point of the list
     scripts/mutants.py --sample 20     # the first 20 points (a quick look)
     scripts/mutants.py --draw 150      # draw a new list of 150 points
+    scripts/mutants.py --baseline REV  # each point also against the suite of REV
 """
 import argparse
 import collections
@@ -157,7 +158,8 @@ def suite_fails(build, limit):
     return False
 
 
-def prepare(scratch):
+def prepare(scratch, tests_from=None):
+    """A built copy of the working tree; with `tests_from`, its tests/ are those of that revision."""
     tree, build = scratch / "tree", scratch / "build"
     if tree.exists():
         shutil.rmtree(tree)
@@ -167,6 +169,10 @@ def prepare(scratch):
             target = tree / png.relative_to(ROOT)
             target.parent.mkdir(parents=True, exist_ok=True)
             shutil.copy2(png, target)
+    if tests_from:
+        shutil.rmtree(tree / "tests")
+        archive = subprocess.run(["git", "archive", tests_from, "tests"], cwd=ROOT, check=True, capture_output=True)
+        subprocess.run(["tar", "-x", "-C", tree], input=archive.stdout, check=True)
     linker = ["-DCMAKE_EXE_LINKER_FLAGS=-fuse-ld=lld"] if shutil.which("ld.lld") else []
     subprocess.run(["cmake", "-S", tree, "-B", build, "-DCMAKE_BUILD_TYPE=Release", "-DCMAKE_CXX_FLAGS_RELEASE=-O1",
                     "-DBRIMO_BUILD_BENCHMARKS=OFF", *linker], check=True, stdout=subprocess.DEVNULL)
@@ -182,6 +188,7 @@ def main():
     parser.add_argument("--sample", type=int, metavar="N", help="run only the first N points of the list")
     parser.add_argument("--scratch", default="/tmp/brimo-mutants", help="where the copy is built")
     parser.add_argument("--limit", type=int, default=300, help="seconds for one build or one test stage")
+    parser.add_argument("--baseline", metavar="REV", help="run each point against the tests of REV as well")
     args = parser.parse_args()
 
     if args.draw:
@@ -190,45 +197,48 @@ def main():
         return 0
 
     points = read_points()[: args.sample]
-    tree, build = prepare(pathlib.Path(args.scratch))
-    caught, survived, gone, unbuilt = [], [], [], []
+    suites = {"suite": prepare(pathlib.Path(args.scratch) / "current")}
+    if args.baseline:
+        suites["baseline"] = prepare(pathlib.Path(args.scratch) / "baseline", args.baseline)
+    results = {name: collections.defaultdict(list) for name in suites}
     started = time.time()
     for number, (rel, name, occurrence, nth, line) in enumerate(points, 1):
-        path = tree / rel
-        original = path.read_text(encoding="utf-8")
-        mutated = mutate(original, occurrence, nth, line, name)
         label = f"{rel}: {name}: {line.strip()}"
-        if mutated is None:
-            gone.append(label)
-            continue
-        path.write_text(mutated, encoding="utf-8")
-        try:
-            if run(["cmake", "--build", build, "-j2"], tree, args.limit) != 0:
-                unbuilt.append(label)
-                verdict = "does not build"
-            elif suite_fails(build, args.limit):
-                caught.append(label)
-                verdict = "caught"
-            else:
-                survived.append(label)
-                verdict = "SURVIVED"
-        finally:
-            path.write_text(original, encoding="utf-8")
-        print(f"[{number}/{len(points)} {time.time() - started:5.0f}s] {verdict}: {label}", flush=True)
-    run(["cmake", "--build", build, "-j2"], tree, args.limit)
+        verdicts = []
+        for suite, (tree, build) in suites.items():
+            verdict = try_point(tree, build, rel, name, occurrence, nth, line, args.limit)
+            results[suite][verdict].append(label)
+            verdicts.append(f"{suite} {verdict}")
+        print(f"[{number}/{len(points)} {time.time() - started:5.0f}s] {', '.join(verdicts)}: {label}", flush=True)
 
-    print("\nFaults that no test caught:")
-    for label in survived:
-        print(f"  {label}")
-    if gone:
-        print(f"\nPoints whose line is gone ({len(gone)}):")
-        for label in gone:
+    for suite, result in results.items():
+        print(f"\n== {suite}: faults that no test caught")
+        for label in result["SURVIVED"]:
             print(f"  {label}")
-    tried = len(caught) + len(survived)
-    share = 100.0 * len(caught) / tried if tried else 0.0
-    print(f"\n{len(caught)} of {tried} faults caught ({share:.1f}%); {len(unbuilt)} did not build; "
-          f"{len(gone)} gone; {time.time() - started:.0f} s")
+        for label in result["gone"]:
+            print(f"  (line gone) {label}")
+        tried = len(result["caught"]) + len(result["SURVIVED"])
+        share = 100.0 * len(result["caught"]) / tried if tried else 0.0
+        print(f"{suite}: {len(result['caught'])} of {tried} faults caught ({share:.1f}%); "
+              f"{len(result['does not build'])} did not build; {len(result['gone'])} gone")
+    print(f"{time.time() - started:.0f} s")
     return 0
+
+
+def try_point(tree, build, rel, name, occurrence, nth, line, limit):
+    """Makes the fault, builds, runs the suite, puts the file back: the verdict."""
+    path = tree / rel
+    original = path.read_text(encoding="utf-8")
+    mutated = mutate(original, occurrence, nth, line, name)
+    if mutated is None:
+        return "gone"
+    path.write_text(mutated, encoding="utf-8")
+    try:
+        if run(["cmake", "--build", build, "-j2"], tree, limit) != 0:
+            return "does not build"
+        return "caught" if suite_fails(build, limit) else "SURVIVED"
+    finally:
+        path.write_text(original, encoding="utf-8")
 
 
 if __name__ == "__main__":

@@ -1,5 +1,6 @@
 // The command word, the form slots of MainModule, and the module chooser:
-// its window, its keyboard, and where each of its buttons leads.
+// its keyboard and where each of its buttons leads (its window is in the
+// form snapshots).
 
 #include "app/CommandWord.h"
 #include "app/MainModule.h"
@@ -79,67 +80,6 @@ private slots:
         for (const QString& word : argv) bytes.push_back(word.toLocal8Bit());
         for (const QByteArray& word : bytes) pointers.push_back(word.constData());
         QCOMPARE(CommandLineOf(int(pointers.size()), pointers.data()), commandLine);
-    }
-
-    void chooserWindowAsDrawn() {
-        MainModule module;
-        CChoixForm* chooser = module.Show<CChoixForm>();
-        QCOMPARE(chooser->windowTitle(), QStringLiteral("Choix du module"));
-        QCOMPARE(chooser->size(), TwipsSize(4440, 3000));
-        QCOMPARE(chooser->minimumSize(), chooser->maximumSize());
-        QVERIFY(!(chooser->windowFlags() & (Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint)));
-        QCOMPARE(chooser->pos(), QPoint(TwipsToPixels(12225), TwipsToPixels(5865)));
-
-        const struct {
-            const char* name;
-            const char* caption;
-            QRect place;
-            bool belowClientArea;
-        } controls[] = {
-            {"Image1", nullptr, TwipsRect(120, 120, 4155, 915), false},
-            {"CmdChoixPiedTalus", "Pied Talus", TwipsRect(120, 1200, 1215, 495), false},
-            {"CmdChoixAbout", "A propos", TwipsRect(2040, 2400, 1095, 495), false},
-            {"CmdChoixQuitter", "Quitter", TwipsRect(3240, 2400, 1095, 495), false},
-            {"CmdChoixGeneral", "Général", TwipsRect(120, 3480, 975, 375), true},
-            {"CmdCadreLayers", "Cadre et Layers", TwipsRect(1200, 3480, 949, 495), true},
-        };
-        for (const auto& control : controls) {
-            QWidget* widget = chooser->findChild<QWidget*>(control.name);
-            QVERIFY2(widget, control.name);
-            QCOMPARE(widget->geometry(), control.place);
-            QCOMPARE(widget->geometry().top() >= chooser->height(), control.belowClientArea);
-            if (auto* button = qobject_cast<QPushButton*>(widget))
-                QCOMPARE(button->text(), QString::fromUtf8(control.caption));
-        }
-        auto* banner = chooser->findChild<QLabel*>("Image1");
-        QCOMPARE(banner->pixmap().size(), QSize(567, 97));
-        QVERIFY(banner->hasScaledContents());
-    }
-
-    // Enter goes to the default button when no button holds the focus.
-    void quitterIsTheDefaultButton() {
-        MainModule module;
-        recordEnd(module);
-        CChoixForm* chooser = module.Show<CChoixForm>();
-        QVERIFY(QTest::qWaitForWindowActive(chooser));
-        QApplication::focusWidget()->clearFocus();
-        QTest::keyClick(chooser, Qt::Key_Return);
-        QCOMPARE(endStatus_, std::optional<int>(0));
-    }
-
-    // The two buttons out of sight still take the focus: Tab runs through
-    // the tab order and back round to the first.
-    void keyboardReachesEveryButtonInTabOrder() {
-        MainModule module;
-        CChoixForm* chooser = module.Show<CChoixForm>();
-        QVERIFY(QTest::qWaitForWindowActive(chooser));
-        QCOMPARE(focusName(), QStringLiteral("CmdChoixGeneral"));
-        const QStringList order{"CmdChoixPiedTalus", "CmdChoixAbout", "CmdChoixQuitter", "CmdCadreLayers",
-                                "CmdChoixGeneral"};
-        for (const QString& next : order) {
-            QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
-            QCOMPARE(focusName(), next);
-        }
     }
 
     // Enter right after opening presses the button with the focus, not the

@@ -1,21 +1,15 @@
 // The Lisp file written from the default values, against the file composed
-// by hand, and the line forms on values of every kind.
+// by hand (tests/golden), and the line forms on values of every kind.
 
 #include "model/GeneLispCatalogue.h"
 #include "model/GeneralVariables.h"
 #include "platform/Cp1252.h"
-#include "support/DefaultGeneLisp.h"
+#include "support/Golden.h"
 
 #include <gtest/gtest.h>
 
 namespace brimo {
 namespace {
-
-QByteArray expectedDefaultFile() {
-    QByteArray out;
-    for (const char* line : test::kDefaultGeneLisp) out += toCp1252(QString::fromUtf8(line)) + "\r\n";
-    return out;
-}
 
 // The value of each row as the dialog would hand it over from the defaults.
 QString defaultRowValue(const GeneralVariables& variables, const GeneLispRow& row) {
@@ -31,7 +25,7 @@ TEST(GeneLispFile, DefaultsGiveTheFileByteForByte) {
         lines.append(*line);
     }
     const QByteArray written = ComposeLispFile(lines);
-    const QByteArray expected = expectedDefaultFile();
+    const QByteArray expected = test::Golden(QStringLiteral("Brimo_Gene-defaults.lsp"));
     ASSERT_EQ(written.count('\n'), 51);
     EXPECT_EQ(written, expected);
 }

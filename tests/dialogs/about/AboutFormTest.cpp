@@ -40,47 +40,6 @@ private slots:
     void init() { prefix_ = std::make_unique<test::ScratchPrefix>(); }
     void cleanup() { prefix_.reset(); }
 
-    void windowAsDrawn() {
-        test::FormServices services;
-        CAboutForm* about = services.show(new CAboutForm(services.info, services.legends));
-        QCOMPARE(about->windowTitle(), QStringLiteral("About"));
-        QCOMPARE(about->size(), TwipsSize(4605, 3945));
-        QCOMPARE(about->minimumSize(), about->maximumSize());
-        QVERIFY(!(about->windowFlags() & (Qt::WindowMinimizeButtonHint | Qt::WindowMaximizeButtonHint)));
-        // Centred before the window system has put its frame round it: off
-        // by no more than the frame's width.
-        const QPoint offCentre = about->frameGeometry().center() - about->screen()->geometry().center();
-        QVERIFY2(offCentre.manhattanLength() <= 6, "the window opens centred on the screen");
-
-        const struct {
-            const char* name;
-            QRect place;
-        } controls[] = {
-            {"cmdOK", TwipsRect(3360, 3480, 1095, 375)},        {"Command1", TwipsRect(3360, 2520, 1095, 375)},
-            {"txt_about(0)", TwipsRect(825, 105, 2580, 420)},   {"txt_about(10)", TwipsRect(855, 75, 2580, 420)},
-            {"txt_about(11)", TwipsRect(840, 1440, 1380, 195)}, {"Image1", TwipsRect(720, 480, 3165, 675)},
-            {"Image2(4)", TwipsRect(120, 2520, 465, 495)},      {"Image2(5)", TwipsRect(4080, 120, 465, 495)},
-            {"Ligne1", TwipsRect(120, 3120, 3240, 15)},
-        };
-        for (const auto& control : controls) {
-            QWidget* widget = about->findChild<QWidget*>(control.name);
-            QVERIFY2(widget, control.name);
-            QCOMPARE(widget->geometry(), control.place);
-        }
-        // Composed labels keep their corner and grow to hold their text.
-        QCOMPARE(about->findChild<QLabel*>("txt_about(6)")->pos(), TwipsRect(840, 2760, 0, 0).topLeft());
-
-        QList<QImage> icons;
-        for (int i = 0; i <= 8; ++i) {
-            auto* picture = about->findChild<QLabel*>(QStringLiteral("Image2(%1)").arg(i));
-            QCOMPARE(picture->pixmap().size(), QSize(16, 16));
-            QVERIFY(picture->hasScaledContents());
-            for (const QImage& other : icons) QVERIFY(picture->pixmap().toImage() != other);
-            icons.append(picture->pixmap().toImage());
-        }
-        QCOMPARE(about->findChild<QLabel*>("Image1")->pixmap().size(), QSize(611, 137));
-    }
-
     // The title is two bold 18-point layers, yellow below and red above.
     void titleIsTwoLayers() {
         test::FormServices services;
@@ -150,13 +109,6 @@ private slots:
         QCOMPARE(label(about, "txt_about(4)"), QString::fromUtf8(legend56));
         QCOMPARE(label(about, "txt_about(8)"), QStringLiteral("Zorel  version 2009"));
         QCOMPARE(button(about, "cmdOK")->text(), QStringLiteral("OK"));
-    }
-
-    void emptyLegendTableLeavesEmptyTexts() {
-        test::FormServices services;
-        CAboutForm* about = services.show(new CAboutForm(services.info, services.legends));
-        QCOMPARE(button(about, "Command1")->text(), QString());
-        QCOMPARE(label(about, "txt_about(4)"), QString());
     }
 
     // The tool is looked for at its one fixed path, names matched without

@@ -1,14 +1,18 @@
 #include "GeneralFormFixture.h"
 
-#include <QAbstractButton>
+#include "support/FormDump.h"
+#include "support/Golden.h"
+
 #include <QFile>
-#include <QGroupBox>
-#include <QLabel>
+#include <QRadioButton>
+#include <QRegularExpression>
+#include <QTabWidget>
 #include <QTest>
 
 namespace brimo::test {
 
 void GeneralFormTest::SetUp() {
+    messages.clear();
     prefix.writeZorelIni(QStringLiteral("C:\\Zorel"), QStringLiteral("C:\\Zorel\\Var"), QStringLiteral("jo"));
     prefix.makeFolder(QStringLiteral("C:\\Zorel\\Var\\jo"));
     writeLegends(QStringLiteral("FRA"));
@@ -48,13 +52,31 @@ CGeneralForm* GeneralFormTest::reopen() {
     return form;
 }
 
-QString GeneralFormTest::captionOf(const QString& name) const {
-    QWidget* control = form->findChild<QWidget*>(name);
-    if (auto* frame = qobject_cast<QGroupBox*>(control)) return frame->title();
-    if (auto* text = qobject_cast<QLabel*>(control)) return text->text();
-    if (auto* button = qobject_cast<QAbstractButton*>(control)) return button->text();
-    ADD_FAILURE() << "no control with a caption: " << name.toStdString();
-    return {};
+// The legend captions of a dump, by control: "FRA 94" and the like.
+static QMap<QString, QStringList> legendCaptions(const QByteArray& dump) {
+    static const QRegularExpression legend(QStringLiteral("\"([A-Z]{3} \\d+)?\""));
+    QMap<QString, QStringList> captions;
+    for (const QString& line : QString::fromUtf8(dump).split(QLatin1Char('\n')))
+        for (auto m = legend.globalMatch(line); m.hasNext();) captions[line.section(QLatin1Char(' '), 0, 0)] << m.next().captured(1);
+    return captions;
+}
+
+void GeneralFormTest::expectLegendCaptions(const QString& code, const QString& loadButtons) {
+    const QMap<QString, QStringList> expected = legendCaptions(Golden(QStringLiteral("forms/general.txt")));
+    const QMap<QString, QStringList> actual = legendCaptions(DumpForm(form));
+    for (auto it = expected.begin(); it != expected.end(); ++it)
+        for (qsizetype i = 0; i < it->size(); ++i) {
+            const QString n = it->at(i).section(QLatin1Char(' '), 1);
+            const QString& language = (n == "51" || n == "52" || n == "53") ? loadButtons : code;
+            const QString want = n.isEmpty() || language.isEmpty() ? QString() : legend(language, n.toInt());
+            EXPECT_EQ(actual.value(it.key()).value(i), want) << it.key().toStdString();
+        }
+}
+
+void GeneralFormTest::clickOption(const char* name) {
+    auto* option = find<QRadioButton>(name);
+    find<QTabWidget>("SSTab1")->setCurrentIndex(4);
+    QTest::mouseClick(option, Qt::LeftButton, {}, QPoint(6, option->height() / 2));
 }
 
 } // namespace brimo::test

@@ -17,14 +17,13 @@
 namespace brimo::test {
 
 class GeneralFormTest : public ::testing::Test {
-protected:
+public:
     void SetUp() override;
     void TearDown() override;
 
     // A legend file of 174 lines, line n reading "<code> <n>" unless `texts` holds it.
     void writeLegends(const QString& code, const QMap<int, QString>& texts = {});
     void removeLegends(const QString& code);
-    // The text that line n of the test files gives.
     static QString legend(const QString& code, int n) { return code + QLatin1Char(' ') + QString::number(n); }
 
     void writeBrimoIni(const QByteArray& bytes) { prefix.write(kIniPath, bytes); }
@@ -35,13 +34,17 @@ protected:
     CGeneralForm* open();
     // Opens the form anew on the stores as they are, as the chooser does.
     CGeneralForm* reopen();
-    template <class Widget> Widget* find(const QString& name) const {
+    template <class Widget = QWidget> Widget* find(const QString& name) const {
         Widget* widget = form->findChild<Widget*>(name);
         EXPECT_NE(widget, nullptr) << name.toStdString();
         return widget;
     }
-    // The caption of a control: a frame's title, a label's or a button's text.
-    QString captionOf(const QString& name) const;
+    // Every caption that a legend gives (title, tabs, tab captions, the three
+    // buttons named at load) against the form's snapshot, read in the
+    // language `code` ("" for empty legends) and `loadButtons` for the three.
+    void expectLegendCaptions(const QString& code, const QString& loadButtons);
+    // Selects a language option with the mouse, as a user does.
+    void clickOption(const char* name);
 
     static inline const QString kLispPath = QStringLiteral("C:\\Zorel\\Var\\jo\\Brimo_Gene.lsp");
     static inline const QString kIniPath = QStringLiteral("C:\\Zorel\\Var\\jo\\Brimo.ini");

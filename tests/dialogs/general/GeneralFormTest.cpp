@@ -1,0 +1,356 @@
+// CGeneralForm driven as a user drives it: what OK writes from stored values
+// and edits, what it refuses, the words of every language, and the buttons.
+// Its layout and captions at load are pinned by the form snapshots.
+#include "GeneralFormFixture.h"
+
+#include "support/Golden.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QDir>
+#include <QFileDialog>
+#include <QFileInfo>
+#include <QGroupBox>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTabWidget>
+#include <QTest>
+#include <QTimer>
+
+#include <functional>
+
+namespace brimo::test {
+namespace {
+
+const QString kDefaultLisp = QStringLiteral("Brimo_Gene-defaults.lsp");
+using Edits = QList<std::pair<QByteArray, QByteArray>>;
+using Texts = QList<std::pair<const char*, const char*>>;
+
+QByteArray crlf(const char* utf8) { return cp1252(utf8).replace("\n", "\r\n"); }
+
+struct Commit {
+    const char* name;
+    const char* stored; // Brimo.ini before, LF line ends; nullptr: no file
+    std::function<void(GeneralFormTest&)> edit;
+    Texts lispEdits;       // against the defaults' Lisp file (hand-composed)
+    Texts iniEdits;        // against the defaults' Brimo.ini (hand-composed)
+    const char* iniGolden; // or Brimo.ini after, as a golden file
+};
+
+using GeneralCommitTest = GeneralFormTest;
+
+TEST_F(GeneralCommitTest, OkWritesBothFilesFromWhatTheControlsHold) {
+    const Commit commits[] = {
+        {"defaults", nullptr, nullptr, {}, {}, nullptr},
+        {"Enter in a field commits its text untested", nullptr,
+         [](GeneralFormTest& t) {
+             auto* val0 = t.find<QLineEdit>("Val0");
+             t.find<QTabWidget>("SSTab1")->setCurrentIndex(0);
+             val0->setFocus();
+             QTest::keyClicks(val0, "abc");
+             QTest::keyClick(val0, Qt::Key_Return);
+         },
+         {{"(setq cadre_usery", "(setq cadre_usery abc) ;Largeur du cadre users"}}, {{"cadre_usery=", "cadre_usery=abc"}},
+         nullptr},
+        {"stored values outside the options, a grey check box, other keys and sections",
+         "[Brimo_Gene]\nx_def_ounit=5\nx_chttt=7\nx_lang=fra\naffilogoKVO=2\nx_chtxt=9\n[Brimo_Talus]\nx_QZ_tal_dh=4\n",
+         nullptr, {{"(setq x_def_ounit", ""}}, {}, "general-commit/unknown-choices.ini"},
+        {"stored choices come back, keys matched without regard to case",
+         "[Brimo_Gene]\nx_def_ounit=2\nx_def_punit=1\nx_chttt=1\nAffiProfil=0\nx_chtlay=1\nPath_Win5=C:\\Outils\\a.exe\n",
+         nullptr,
+         {{"(setq x_def_ounit", "(setq x_def_ounit 2) ;L'unité par défaut de l'espace objet est le m"},
+          {"(setq x_def_punit", "(setq x_def_punit 1) ;L'unité par défaut de l'espace papier est le cm"},
+          {"(setq x_chttt", "(setq x_chttt 1) ;Commande Autocad aprés choix du style - Texte sur une ligne"},
+          {"(setq affiprofil", "(setq affiprofil 0) ;Affichage du profil dessin - Inactif"},
+          {"(setq x_chtlay", "(setq x_chtlay 1) ;Layers à utiliser après l'appel de la commande - Layers courant"},
+          {"(setq path_win5", "(setq path_win5 \"C:\\\\Outils\\\\a.exe\") ;Emplacement d'un programme personnel"}},
+         {}, "general-commit/stored-choices.ini"},
+        {"a click on Check3 and on an option", nullptr,
+         [](GeneralFormTest& t) {
+             t.find<QCheckBox>("Check3")->click();
+             t.find<QRadioButton>("Option4(6)")->click();
+             t.find<QCheckBox>("Check2")->click();
+         },
+         {{"(setq x_chtlay", "(setq x_chtlay 1) ;Layers à utiliser après l'appel de la commande - Layers courant"},
+          {"(setq x_chttt", "(setq x_chttt 3) ;Commande Autocad aprés choix du style - Texte paragraphe"},
+          {"(setq affiprofil", "(setq affiprofil 0) ;Affichage du profil dessin - Inactif"}},
+         {{"x_chtlay=", "x_chtlay=1"}, {"x_chttt=", "x_chttt=3"}, {"affiprofil=", "affiprofil=0"}}, nullptr},
+    };
+    for (const Commit& c : commits) {
+        SCOPED_TRACE(c.name);
+        TearDown();
+        QDir(prefix.native(QStringLiteral("C:\\Zorel\\Var\\jo"))).removeRecursively();
+        prefix.makeFolder(QStringLiteral("C:\\Zorel\\Var\\jo"));
+        SetUp();
+        if (c.stored) writeBrimoIni(crlf(c.stored));
+        open();
+        if (c.edit) c.edit(*this);
+        if (ends().isEmpty()) find<QPushButton>("cmdOK")->click();
+        Edits lispEdits;
+        for (const auto& [head, line] : c.lispEdits) lispEdits.append({QByteArray(head), cp1252(line)});
+        EXPECT_EQ(lisp(), GoldenWith(kDefaultLisp, lispEdits));
+        // Keys already stored keep their place, with their spelling; the
+        // others follow in the order of the rows.
+        if (c.iniGolden) ExpectGolden(QString::fromLatin1(c.iniGolden), ini());
+        else {
+            Edits iniEdits;
+            for (const auto& [head, line] : c.iniEdits) iniEdits.append({QByteArray(head), QByteArray(line)});
+            EXPECT_EQ(ini(), GoldenWith(QStringLiteral("Brimo-defaults.ini"), iniEdits));
+        }
+        EXPECT_EQ(ends(), QList<int>{0});
+        EXPECT_TRUE(messages.isEmpty());
+    }
+}
+
+TEST_F(GeneralCommitTest, ADoubleQuoteInALispStringIsRefusedWithEveryEditKept) {
+    open();
+    auto* tabs = find<QTabWidget>("SSTab1");
+    auto* val15 = find<QLineEdit>("Val15");
+    find<QLineEdit>("Val0")->setText("9\"00"); // a numeric row: no string, no refusal
+    val15->setText("Bureau \"Nord\"");
+    find<QPushButton>("cmdOK")->click();
+    ASSERT_EQ(messages.size(), 1);
+    EXPECT_TRUE(messages[0].text.contains("x_nom_bureau") && messages[0].text.contains("Nom de votre bureau"));
+    EXPECT_EQ(tabs->currentIndex(), 3);
+    EXPECT_EQ(QApplication::focusWidget(), val15);
+    EXPECT_EQ(val15->text(), "Bureau \"Nord\"");
+    EXPECT_TRUE(ends().isEmpty());
+    EXPECT_FALSE(prefix.exists(kLispPath) || prefix.exists(kIniPath));
+
+    val15->setText("Bureau Nord");
+    find<QLineEdit>("Text15")->setText("C:\\a\"b.exe");
+    find<QPushButton>("cmdOK")->click();
+    ASSERT_EQ(messages.size(), 2);
+    EXPECT_TRUE(messages[1].text.contains("path_win5"));
+    EXPECT_EQ(tabs->currentIndex(), 5);
+    EXPECT_TRUE(ends().isEmpty());
+}
+
+// A commit that cannot write shows one message naming the file, changes
+// nothing and ends with status 1.
+TEST_F(GeneralCommitTest, ACommitThatCannotWriteReportsAndChangesNothing) {
+    const struct {
+        const char* name;
+        std::function<void(GeneralFormTest&)> spoil;
+        QString named;
+    } failures[] = {
+        {"folder missing", [](GeneralFormTest& t) { QDir(t.prefix.native("C:\\Zorel\\Var\\jo")).removeRecursively(); },
+         kLispPath},
+        {"read-only Brimo.ini",
+         [](GeneralFormTest& t) {
+             QFile::setPermissions(t.prefix.native(kIniPath), QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther);
+         },
+         kIniPath},
+        {"a folder where Brimo.ini should be",
+         [](GeneralFormTest& t) {
+             QFile::remove(t.prefix.native(kIniPath));
+             t.prefix.makeFolder(kIniPath);
+         },
+         kIniPath},
+    };
+    for (const auto& failure : failures) {
+        SCOPED_TRACE(failure.name);
+        TearDown();
+        QDir(prefix.native(QStringLiteral("C:\\Zorel\\Var\\jo"))).removeRecursively();
+        SetUp();
+        writeBrimoIni("[Brimo_Gene]\r\nx_incli=3\r\n");
+        prefix.write(kLispPath, "old");
+        open();
+        failure.spoil(*this);
+        const QByteArray iniBefore = ini(), lispBefore = lisp();
+        find<QPushButton>("cmdOK")->click();
+        ASSERT_EQ(messages.size(), 1);
+        EXPECT_TRUE(messages[0].text.contains(failure.named));
+        EXPECT_EQ(ends(), QList<int>{1});
+        EXPECT_EQ(ini(), iniBefore);
+        EXPECT_EQ(lisp(), lispBefore);
+    }
+}
+
+// Leaving a field runs its rule; a refusal shows legends 166 and 167 and
+// keeps the focus. The rules themselves are tested on their own table.
+TEST_F(GeneralFormTest, LeavingAFieldRepairsOrRefusesItsText) {
+    const bool comma = QLocale::system().decimalPoint() == QLatin1String(",");
+    EXPECT_EQ(comma, qEnvironmentVariable("LC_ALL").startsWith("de_DE"));
+    const struct {
+        const char* field;
+        const char* typed;
+        const char* after;
+        bool refused;
+    } typings[] = {
+        {"Val0", "", "860", false},
+        {"Val6", "", comma ? "0,7" : "0.7", false},
+        {"Val0", "abc", "abc", true},
+        {"Val7", comma ? "-2,50" : "-2.50", comma ? "2,5" : "2.5", false},
+        {"Val7", ".5", comma ? ".5" : "0.5", comma},
+        {"Text8", "300", "4", false},
+        {"Text19", "257", "255", false},
+        {"Val15", "Bureau \"Nord\"", "Bureau \"Nord\"", false},
+    };
+    open();
+    auto* tabs = find<QTabWidget>("SSTab1");
+    for (const auto& typing : typings) {
+        SCOPED_TRACE(std::string(typing.field) + " <- '" + typing.typed + "'");
+        auto* field = find<QLineEdit>(typing.field);
+        for (int tab = 0; tab < tabs->count(); ++tab)
+            if (tabs->widget(tab)->isAncestorOf(field)) tabs->setCurrentIndex(tab);
+        field->setFocus();
+        EXPECT_EQ(field->selectedText(), field->text()) << "the entry selects the whole text";
+        const QString typed = QString::fromUtf8(typing.typed);
+        if (typed.isEmpty()) QTest::keyClick(field, Qt::Key_Delete);
+        else QTest::keyClicks(field, typed);
+        messages.clear();
+        QTest::keyClick(field, Qt::Key_Tab);
+        EXPECT_EQ(field->text(), QString::fromUtf8(typing.after));
+        EXPECT_EQ(messages.size(), typing.refused ? 1 : 0);
+        EXPECT_EQ(QApplication::focusWidget() == field, typing.refused);
+        if (typing.refused) {
+            EXPECT_EQ(messages[0].text, legend("FRA", 166));
+            EXPECT_EQ(messages[0].title, legend("FRA", 167));
+            EXPECT_EQ(messages[0].flags, 4160);
+            field->setText(QStringLiteral("1"));
+        }
+        find<QWidget>("cmdOK")->setFocus();
+    }
+}
+
+TEST_F(GeneralFormTest, ATabChangeWordsThatTabAgain) {
+    open();
+    EXPECT_EQ(QApplication::focusWidget(), find<QPushButton>("cmdOK"));
+    EXPECT_EQ(legendQuestions(), 0);
+    QTest::keyClick(find<QPushButton>("cmdOK"), Qt::Key_Tab);
+    EXPECT_EQ(QApplication::focusWidget(), find("Val4"));
+    SetCaption(find("Frame1"), "changed");
+    SetCaption(find("Frame8"), "changed");
+    find<QTabWidget>("SSTab1")->setCurrentIndex(3);
+    EXPECT_EQ(find<QGroupBox>("Frame1")->title(), legend("FRA", 147));
+    EXPECT_EQ(find<QGroupBox>("Frame8")->title(), "changed") << "only the tab that became current";
+}
+
+TEST_F(GeneralFormTest, SwitchingLanguageRewordsEveryTabKeepsTheValuesAndRunsNoRule) {
+    writeBrimoIni("[Brimo_Gene]\r\ncadre_usery=abc\r\n");
+    open();
+    find<QLineEdit>("Val15")->setText("Mon bureau");
+    clickOption("Option5(2)");
+    EXPECT_EQ(services->variables.text(u"x_lang"), "DEU");
+    EXPECT_EQ(find<QTabWidget>("SSTab1")->currentIndex(), 4);
+    EXPECT_EQ(QApplication::focusWidget(), find("Option5(2)"));
+    expectLegendCaptions("DEU", "FRA");
+    EXPECT_EQ(find<QLineEdit>("Val15")->text(), "Mon bureau");
+    EXPECT_EQ(find<QLineEdit>("Val0")->text(), "abc");
+    EXPECT_TRUE(messages.isEmpty());
+    EXPECT_FALSE(prefix.exists(kLispPath));
+
+    // A failed reload empties the captions; a good one brings them back.
+    removeLegends("DEU");
+    clickOption("Option5(0)");
+    clickOption("Option5(2)");
+    EXPECT_EQ(legendQuestions(), 1);
+    expectLegendCaptions("", "FRA");
+    clickOption("Option5(0)");
+    expectLegendCaptions("FRA", "FRA");
+
+    // Opened again from the chooser: the new language, the edits gone.
+    clickOption("Option5(2)");
+    writeLegends("DEU");
+    clickOption("Option5(0)");
+    clickOption("Option5(2)");
+    find<QPushButton>("Command7")->click();
+    EXPECT_EQ(services->shown, QList<FormKind>{FormKind::Chooser});
+    EXPECT_FALSE(form->isVisible());
+    reopen();
+    expectLegendCaptions("DEU", "DEU");
+    EXPECT_EQ(find<QLineEdit>("Val15")->text(), "Nom du bureau");
+    EXPECT_TRUE(ends().isEmpty());
+}
+
+TEST_F(GeneralFormTest, AStoredLanguageOpensOnTheLanguageTab) {
+    const struct {
+        const char* code;
+        const char* option;
+        bool fileThere;
+        int questions;
+    } languages[] = {{"DEU", "Option5(2)", true, 0}, {"ENG", "Option5(1)", true, 0}, {"DEU", "Option5(2)", false, 2}};
+    for (const auto& language : languages) {
+        SCOPED_TRACE(language.code);
+        TearDown();
+        SetUp();
+        if (language.fileThere) writeLegends(language.code);
+        else removeLegends(language.code);
+        writeBrimoIni(QByteArray("[Brimo_Gene]\r\nx_lang=") + language.code + "\r\n");
+        open();
+        EXPECT_EQ(find<QTabWidget>("SSTab1")->currentIndex(), 4);
+        EXPECT_TRUE(find<QRadioButton>(language.option)->isChecked());
+        EXPECT_EQ(legendQuestions(), language.questions);
+        const QString shown = language.fileThere ? QString::fromLatin1(language.code) : QString();
+        expectLegendCaptions(shown, shown);
+    }
+}
+
+TEST_F(GeneralFormTest, EscapeCommand8AndAClickOnACheckBoxDoNoHarm) {
+    open();
+    find<QLineEdit>("Val15")->setText("Mon bureau");
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Escape);
+    find<QPushButton>("Command8")->click();
+    auto* check3 = find<QCheckBox>("Check3");
+    check3->click();
+    check3->click();
+    EXPECT_EQ(check3->checkState(), Qt::Unchecked) << "a click never makes the grey state";
+    EXPECT_TRUE(form->isVisible());
+    EXPECT_TRUE(ends().isEmpty() && messages.isEmpty());
+    EXPECT_EQ(find<QLineEdit>("Val15")->text(), "Mon bureau");
+    find<QPushButton>("cmdAbout")->click();
+    EXPECT_EQ(services->shown, QList<FormKind>{FormKind::About});
+    find<QPushButton>("CmdCancel")->click();
+    EXPECT_EQ(ends(), QList<int>{0});
+    EXPECT_FALSE(prefix.exists(kLispPath) || prefix.exists(kIniPath));
+}
+
+// Answers the next file dialog: notes what it shows, then picks `file` or cancels.
+struct FileDialogSeen {
+    QString title;
+    QStringList filters;
+    QStringList initial;
+};
+void answerNextFileDialog(FileDialogSeen& seen, const QString& file) {
+    QTimer::singleShot(0, [&seen, file] {
+        auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+        if (!dialog) return;
+        seen = {dialog->windowTitle(), dialog->nameFilters(), dialog->selectedFiles()};
+        if (file.isEmpty()) return dialog->reject();
+        dialog->selectFile(file);
+        static_cast<QDialog*>(dialog)->accept(); // as the Open button does
+    });
+}
+
+TEST_F(GeneralFormTest, AProgramButtonPutsTheChosenFileIntoItsField) {
+    writeLegends("FRA", {{173, "Programmes (*.exe)|*.exe|Tous (*.*)|*.*"}});
+    prefix.write("C:\\Outils\\calc.exe", "");
+    writeBrimoIni("[Brimo_Gene]\r\nPath_Win2=C:\\Outils\\calc.exe\r\n");
+    open();
+    FileDialogSeen seen;
+    answerNextFileDialog(seen, prefix.native("C:\\Outils\\neuf.exe"));
+    find<QPushButton>("Command5")->click();
+    EXPECT_EQ(seen.title, legend("FRA", 172));
+    EXPECT_EQ(seen.filters, QStringList({"Programmes (*.exe)", "Tous (*.*)"}));
+    EXPECT_EQ(find<QLineEdit>("Text15")->text(), "C:\\Outils\\neuf.exe");
+
+    // The dialog opens on the field's file; a cancel changes nothing.
+    answerNextFileDialog(seen, {});
+    find<QPushButton>("Command2")->click();
+    EXPECT_EQ(seen.title, legend("FRA", 169));
+    ASSERT_EQ(seen.initial.size(), 1);
+    EXPECT_EQ(QFileInfo(seen.initial[0]).canonicalFilePath(),
+              QFileInfo(prefix.native("C:\\Outils\\calc.exe")).canonicalFilePath());
+    EXPECT_EQ(find<QLineEdit>("Text12")->text(), "C:\\Outils\\calc.exe");
+
+    // A file outside the prefix keeps its native path.
+    answerNextFileDialog(seen, "/usr/bin/env");
+    find<QPushButton>("Command6")->click();
+    EXPECT_EQ(seen.title, legend("FRA", 174));
+    EXPECT_EQ(find<QLineEdit>("Text18")->text(), "/usr/bin/env");
+}
+
+} // namespace
+} // namespace brimo::test
