@@ -5,6 +5,7 @@
 #include "dialogs/slope/CParamRechTalus.h"
 #include "forms/WindowServices.h"
 #include "support/FormServices.h"
+#include "support/Golden.h"
 #include "support/ScratchPrefix.h"
 
 #include <QCheckBox>
@@ -21,51 +22,15 @@ namespace {
 const QString kLisp = QStringLiteral("C:\\Zorel\\Var\\Jean\\Brimo_Talus.lsp");
 const QString kIni = QStringLiteral("C:\\Zorel\\Var\\Jean\\Brimo.ini");
 
-// The file from the opening values, in Windows-1252 with CR LF.
-const QByteArray kOpeningLisp =
-    "(setq QZ_asp_dess \"polyligne\") ;Choix du dessin final (polyligne ou points)\r\n"
-    "(setq QZ_des_tal 2) ;Type de dessin du talus (2 ou 3 pour 2d ou 3d)\r\n"
-    "(setq QZ_tal_dh 3) ;Talus dist horiz\r\n"
-    "(setq QZ_tal_dv 2) ;Talus dist vert\r\n"
-    "(setq QZ_tal_max 20) ;Long initial du talus\r\n"
-    "(setq QZ_rech_360 360) ;Nbr de rech pour 360 degres\r\n"
-    "(setq QZ_ecart_pts 1) ;Ecart entre les recherches\r\n"
-    "(setq QZ_fact_flch 6) ;Facteur d'\xE9"
-    "chelle des fl\xE8"
-    "ches de direction\r\n";
+// The files of the opening values, and an earlier Brimo.ini with the general
+// section, a slope section holding a key of its own, and a later section that
+// holds a slope key name too (tests/golden/slope).
+const QByteArray kOpeningLisp = test::Golden(QStringLiteral("slope/Brimo_Talus-opening.lsp"));
+const QByteArray kEarlierIni = test::Golden(QStringLiteral("slope/Brimo-earlier.ini"));
+const QByteArray kOpeningIni = test::Golden(QStringLiteral("slope/Brimo-opening.ini"));
 
 // An earlier commit of another program version, longer than any new one.
 const QByteArray kEarlierLisp = QByteArray("(setq QZ_ancien 1) ;plus lu\r\n").repeated(12);
-
-// Brimo.ini with the general section, an earlier slope section holding a key
-// of its own, and a later section that holds a slope key name too.
-const QByteArray kEarlierIni = "[Brimo_Gene]\r\n"
-                               "cadre_usery=900\r\n"
-                               "x_lang=FRA\r\n"
-                               "\r\n"
-                               "[Brimo_Talus]\r\n"
-                               "x_QZ_asp_dess=points\r\n"
-                               "x_autre=ne pas toucher\r\n"
-                               "x_QZ_tal_dh=9\r\n"
-                               "[Autre]\r\n"
-                               "x_QZ_tal_dh=99\r\n";
-
-const QByteArray kOpeningIni = "[Brimo_Gene]\r\n"
-                               "cadre_usery=900\r\n"
-                               "x_lang=FRA\r\n"
-                               "\r\n"
-                               "[Brimo_Talus]\r\n"
-                               "x_QZ_asp_dess=polyligne\r\n"
-                               "x_autre=ne pas toucher\r\n"
-                               "x_QZ_tal_dh=3\r\n"
-                               "x_QZ_des_tal=2\r\n"
-                               "x_QZ_tal_dv=2\r\n"
-                               "x_QZ_tal_max=20\r\n"
-                               "x_QZ_rech_360=360\r\n"
-                               "x_QZ_ecart_pts=1\r\n"
-                               "x_QZ_fact_flch=6\r\n"
-                               "[Autre]\r\n"
-                               "x_QZ_tal_dh=99\r\n";
 
 QByteArray replaced(QByteArray bytes, const QByteArray& before, const QByteArray& after) {
     const qsizetype at = bytes.indexOf(before);
