@@ -11,6 +11,7 @@
 #include <QCheckBox>
 #include <QFile>
 #include <QKeyEvent>
+#include <QLocale>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -26,6 +27,8 @@ struct ParityCase {
     const char* name;
     QByteArray storedIni; // Brimo.ini before; empty: none
     Values values;
+    char decimal = 0;     // run only under this decimal symbol (a text that
+                          // one locale repairs, the other refuses)
 };
 
 const ParityCase kGeneralCases[] = {
@@ -36,9 +39,11 @@ const ParityCase kGeneralCases[] = {
      {}},
     {"rule repairs",
      "[Brimo_Gene]\r\ncadre_usery=900\r\n",
-     {{"cadre_usery", ""}, {"x_ht_gc1", ".5"}, {"cadre_decal", "-2.50"}, {"x_color_zm10", "300"},
+     {{"cadre_usery", ""}, {"cadre_decal", "-2.50"}, {"x_color_zm10", "300"},
       {"cadre_couleur", "256.5"}, {"cadre_layer", ""}, {"x_compress", "2,5"}, {"x_color_gcc", "1e400"},
       {"x_incli", "-12"}, {"x_ht_gc15", "1e39"}}},
+    {"leading point", {}, {{"x_ht_gc1", ".5"}, {"x_ht_gc2", "-.5"}, {"x_ht_gcc", "-2.50"}}, '.'},
+    {"decimal comma", {}, {{"x_ht_gc1", "-,5"}, {"x_ht_gc2", "-2,50"}, {"x_incli", "-1,25"}}, ','},
     {"texts and paths",
      {},
      {{"x_nom_bureau", "Bureau d'études Nord"}, {"x_lieu_bureau", "Genève"}, {"Path_Win1", "D:\\Outils\\x.exe"},
@@ -57,7 +62,7 @@ const ParityCase kSlopeCases[] = {
     {"opening values", "[Brimo_Talus]\r\nx_QZ_tal_dh=9\r\n", {}},
     {"repairs and choices",
      {},
-     {{"x_QZ_tal_dh", "-4"}, {"x_QZ_tal_max", ""}, {"x_QZ_fact_flch", "2,5"}, {"x_QZ_ecart_pts", ".5"},
+     {{"x_QZ_tal_dh", "-4"}, {"x_QZ_tal_max", ""}, {"x_QZ_fact_flch", "2,5"}, {"x_QZ_ecart_pts", "0.5"},
       {"x_QZ_asp_dess", "points"}, {"x_QZ_des_tal", "3"}}},
 };
 
@@ -152,6 +157,7 @@ protected:
 
 TEST_F(SettingsParityTest, SetWritesWhatTheGeneralDialogsOkWrites) {
     for (const ParityCase& c : kGeneralCases) {
+        if (c.decimal && QLocale::system().decimalPoint() != QLatin1Char(c.decimal)) continue;
         SCOPED_TRACE(c.name);
         resetFiles(c);
         generalDialog(c.values);
