@@ -1,19 +1,22 @@
 # What `cmake --install` puts where, and the Debian package made by CPack.
 #
 #   bin/Brimo2010
+#   bin/brimo-settings                       the settings from the command line
 #   share/brimo/legends/ZorelMsg_*.txt       copied into a prefix by the demo script
 #   share/brimo/make-demo-prefix.sh          makes a demo installation in a Wine prefix
 #   share/applications/brimo.desktop
 #   share/icons/hicolor/scalable/apps/brimo.svg
-#   share/man/man1/Brimo2010.1.gz
-#   share/doc/brimo/changelog.gz
+#   share/metainfo/org.example.brimo.metainfo.xml
+#   share/bash-completion/completions/brimo-settings
+#   share/man/man1/Brimo2010.1.gz, brimo-settings.1.gz
+#   share/doc/brimo/changelog.gz, copyright
 #
 # The program itself finds its files through the Wine prefix alone; nothing
 # installed here is read by it at run time.
 
 set(BRIMO_SHARE_DIR ${PROJECT_SOURCE_DIR}/share)
 
-install(TARGETS Brimo2010 RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
+install(TARGETS Brimo2010 brimo-settings RUNTIME DESTINATION ${CMAKE_INSTALL_BINDIR})
 install(DIRECTORY ${BRIMO_SHARE_DIR}/legends/
         DESTINATION ${CMAKE_INSTALL_DATADIR}/brimo/legends
         FILES_MATCHING PATTERN "ZorelMsg_*.txt")
@@ -23,19 +26,28 @@ install(FILES ${BRIMO_SHARE_DIR}/applications/brimo.desktop
         DESTINATION ${CMAKE_INSTALL_DATADIR}/applications)
 install(FILES ${BRIMO_SHARE_DIR}/icons/brimo.svg
         DESTINATION ${CMAKE_INSTALL_DATADIR}/icons/hicolor/scalable/apps)
+install(FILES ${BRIMO_SHARE_DIR}/metainfo/org.example.brimo.metainfo.xml
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
+install(FILES ${BRIMO_SHARE_DIR}/completions/brimo-settings
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions)
+install(FILES ${BRIMO_SHARE_DIR}/doc/copyright DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/brimo)
 
-# The manual page and the changelog go compressed, as Debian wants them.
+# The manual pages and the changelog go compressed, as Debian wants them.
 set(BRIMO_PACKED_DIR ${PROJECT_BINARY_DIR}/packed)
-add_custom_command(
-  OUTPUT ${BRIMO_PACKED_DIR}/Brimo2010.1.gz ${BRIMO_PACKED_DIR}/changelog.gz
-  COMMAND ${CMAKE_COMMAND} -E make_directory ${BRIMO_PACKED_DIR}
-  COMMAND gzip -9nc ${BRIMO_SHARE_DIR}/man/Brimo2010.1 > ${BRIMO_PACKED_DIR}/Brimo2010.1.gz
-  COMMAND gzip -9nc ${BRIMO_SHARE_DIR}/doc/changelog > ${BRIMO_PACKED_DIR}/changelog.gz
-  DEPENDS ${BRIMO_SHARE_DIR}/man/Brimo2010.1 ${BRIMO_SHARE_DIR}/doc/changelog
-  VERBATIM)
-add_custom_target(brimo_packed_docs ALL
-  DEPENDS ${BRIMO_PACKED_DIR}/Brimo2010.1.gz ${BRIMO_PACKED_DIR}/changelog.gz)
-install(FILES ${BRIMO_PACKED_DIR}/Brimo2010.1.gz DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
+set(BRIMO_PACKED)
+foreach(source man/Brimo2010.1 man/brimo-settings.1 doc/changelog)
+  get_filename_component(name ${source} NAME)
+  add_custom_command(
+    OUTPUT ${BRIMO_PACKED_DIR}/${name}.gz
+    COMMAND ${CMAKE_COMMAND} -E make_directory ${BRIMO_PACKED_DIR}
+    COMMAND gzip -9nc ${BRIMO_SHARE_DIR}/${source} > ${BRIMO_PACKED_DIR}/${name}.gz
+    DEPENDS ${BRIMO_SHARE_DIR}/${source}
+    VERBATIM)
+  list(APPEND BRIMO_PACKED ${BRIMO_PACKED_DIR}/${name}.gz)
+endforeach()
+add_custom_target(brimo_packed_docs ALL DEPENDS ${BRIMO_PACKED})
+install(FILES ${BRIMO_PACKED_DIR}/Brimo2010.1.gz ${BRIMO_PACKED_DIR}/brimo-settings.1.gz
+        DESTINATION ${CMAKE_INSTALL_MANDIR}/man1)
 install(FILES ${BRIMO_PACKED_DIR}/changelog.gz DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/brimo)
 
 # Debian package: `cpack` in the build folder.
@@ -51,7 +63,8 @@ set(CPACK_PACKAGE_DESCRIPTION
 frame and layer, units, text styles and heights, dimension style, office
 details, language, display switches and the locations of other programs, and
 the parameters of the slope-toe search. OK writes each value to a Lisp file
-that the add-on loads and to the user's profile file.
+that the add-on loads and to the user's profile file. The command
+brimo-settings reads and writes the same settings from a terminal or a script.
 
 The program works on the Windows installation of a Wine prefix, where AutoCAD
 and the add-on run. Its dialogs speak French, English, German and Italian.")

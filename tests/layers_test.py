@@ -9,7 +9,7 @@ import pathlib
 import re
 import sys
 
-RANKS = {"platform": 0, "model": 1, "forms": 2, "dialogs": 3, "app": 4}
+RANKS = {"platform": 0, "model": 1, "forms": 2, "dialogs": 3, "app": 4, "settings": 4}
 INCLUDE = re.compile(r'^\s*#\s*include\s+"([^"]+)"', re.M)
 
 

@@ -2,39 +2,65 @@
 
 #include "model/LispFile.h"
 #include "platform/Cp1252.h"
-#include "platform/FileAccess.h"
-#include "platform/ProfileDocument.h"
 #include "platform/WindowsPaths.h"
 
 #include <QFileInfo>
 
 namespace brimo {
 
-CommitOutcome CommitVariables(const QString& lispPath, const QString& iniPath, const QString& section,
-                              const QList<CommittedRow>& rows) {
+CommitPlan::CommitPlan(const QString& iniPath) : iniPath_(iniPath), nativeIni_(ToNativePath(iniPath)) {
+    if (!QFileInfo::exists(nativeIni_)) return;
+    QString error;
+    auto bytes = ReadWholeFile(nativeIni_, &error);
+    if (!bytes) readFailure_ = {false, iniPath, error};
+    else ini_ = ProfileDocument(std::move(*bytes));
+}
+
+void CommitPlan::add(const QString& lispPath, const QString& section, const QList<CommittedRow>& rows) {
     QStringList lines;
     QList<ProfileDocument::KeyValue> keys;
     for (const CommittedRow& row : rows) {
         lines.append(row.line);
         keys.append({toCp1252(row.key), toCp1252(row.value)});
     }
+    lispFiles_.append({lispPath, {ToNativePath(lispPath), ComposeLispFile(lines)}});
+    ini_.setStrings(toCp1252(section), keys);
+}
 
-    const QString nativeLisp = ToNativePath(lispPath);
-    const QString nativeIni = ToNativePath(iniPath);
-    QByteArray iniBytes;
-    if (QFileInfo::exists(nativeIni)) {
-        QString error;
-        auto bytes = ReadWholeFile(nativeIni, &error);
-        if (!bytes) return {false, iniPath, error};
-        iniBytes = std::move(*bytes);
+QList<CommitPlan::File> CommitPlan::files() const {
+    QList<File> all = lispFiles_;
+    all.append({iniPath_, {nativeIni_, ini_.bytes()}});
+    return all;
+}
+
+QStringList CommitPlan::changedFiles() const {
+    QStringList changed;
+    for (const File& file : files()) {
+        // A file that cannot be read counts as changed: only a write can tell.
+        const std::optional<QByteArray> before = ReadWholeFile(file.planned.nativePath);
+        if (!before || *before != file.planned.bytes) changed.append(file.windowsPath);
     }
-    ProfileDocument ini(std::move(iniBytes));
-    ini.setStrings(toCp1252(section), keys);
+    return changed;
+}
 
+CommitOutcome CommitPlan::write() const {
+    if (!readFailure_.ok) return readFailure_;
+    QList<FileToWrite> planned;
+    for (const File& file : files()) planned.append(file.planned);
     QString failed, reason;
-    if (!WriteFilesTogether({{nativeLisp, ComposeLispFile(lines)}, {nativeIni, ini.bytes()}}, &failed, &reason))
-        return {false, failed == nativeLisp ? lispPath : iniPath, reason};
+    if (!WriteFilesTogether(planned, &failed, &reason)) {
+        for (const File& file : files())
+            if (file.planned.nativePath == failed) return {false, file.windowsPath, reason};
+        return {false, failed, reason};
+    }
     return {};
+}
+
+CommitOutcome CommitVariables(const QString& lispPath, const QString& iniPath, const QString& section,
+                              const QList<CommittedRow>& rows) {
+    CommitPlan plan(iniPath);
+    plan.add(lispPath, section, rows);
+    return plan.write();
 }
 
 } // namespace brimo

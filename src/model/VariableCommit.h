@@ -6,6 +6,9 @@
 // and a key of one section of Brimo.ini. Both files are written whole, the
 // Lisp file first, all or nothing: a failure leaves both as they were.
 
+#include "platform/FileAccess.h"
+#include "platform/ProfileDocument.h"
+
 #include <QList>
 #include <QString>
 
@@ -21,6 +24,33 @@ struct CommitOutcome {
     bool ok = true;
     QString file;   // the Windows path of the file that could not be written
     QString reason;
+};
+
+// One or more commits on the same Brimo.ini, composed in memory and written
+// together: each Lisp file, then Brimo.ini, all or nothing.
+class CommitPlan {
+public:
+    // Reads Brimo.ini as it stands; a file that exists and cannot be read
+    // makes the plan fail.
+    explicit CommitPlan(const QString& iniPath);
+
+    void add(const QString& lispPath, const QString& section, const QList<CommittedRow>& rows);
+
+    // The Windows paths of the files whose bytes would change.
+    QStringList changedFiles() const;
+    CommitOutcome write() const;
+
+private:
+    struct File {
+        QString windowsPath;
+        FileToWrite planned;
+    };
+    QList<File> files() const;
+
+    QString iniPath_, nativeIni_;
+    CommitOutcome readFailure_;
+    ProfileDocument ini_;
+    QList<File> lispFiles_;
 };
 
 CommitOutcome CommitVariables(const QString& lispPath, const QString& iniPath, const QString& section,

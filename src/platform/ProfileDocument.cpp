@@ -155,6 +155,15 @@ const ProfileDocument::Section* ProfileDocument::findSection(QByteArrayView name
     return nullptr;
 }
 
+QList<QByteArray> ProfileDocument::keyNames(QByteArrayView section) const {
+    QList<QByteArray> names;
+    const Section* found = findSection(section);
+    if (!found) return names;
+    for (const Key& key : keysOf(*found))
+        if (key.valueBegin >= 0) names.append(bytes_.mid(key.nameBegin, key.nameEnd - key.nameBegin));
+    return names;
+}
+
 std::vector<ProfileDocument::Key> ProfileDocument::keysOf(const Section& section) const {
     std::vector<Key> keys;
     const QByteArrayView bytes(bytes_);

@@ -38,6 +38,10 @@ public:
     // or the key is missing.
     QByteArray getString(QByteArrayView section, QByteArrayView key, int bufferSize = 255) const;
 
+    // The names of the keys of a section (lines with '='), in file order;
+    // nothing when the section is missing.
+    QList<QByteArray> keyNames(QByteArrayView section) const;
+
     // WritePrivateProfileStringA for each pair in turn, on the text in memory.
     // Returns true when the text changed.
     using KeyValue = QPair<QByteArray, QByteArray>;

@@ -6,7 +6,17 @@
 
 namespace brimo {
 
+namespace {
+QString& chosenPrefix() {
+    static QString prefix;
+    return prefix;
+}
+} // namespace
+
+void SetWinePrefix(const QString& prefix) { chosenPrefix() = prefix; }
+
 QString WinePrefix() {
+    if (!chosenPrefix().isEmpty()) return chosenPrefix();
     const QString prefix = qEnvironmentVariable("WINEPREFIX");
     if (!prefix.isEmpty()) return prefix;
     return qEnvironmentVariable("HOME") + QStringLiteral("/.wine");

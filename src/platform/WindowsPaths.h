@@ -11,6 +11,11 @@ namespace brimo {
 // only place where the program reads its environment.
 QString WinePrefix();
 
+// Makes `prefix` the prefix of the run in place of the environment's, so that
+// one process can work on several prefixes in turn; the empty text goes back
+// to the environment.
+void SetWinePrefix(const QString& prefix);
+
 // The Windows folder as a Windows path text, without a trailing backslash
 // ("C:\windows"), the way the platform reports it.
 QString GetWindowsFolder();

@@ -1,7 +1,7 @@
 #include "dialogs/general/CGeneralForm.h"
 
 #include "dialogs/general/GeneralIcon.h"
-#include "dialogs/general/GeneralLoad.h"
+#include "model/GeneralLoad.h"
 #include "dialogs/general/ProgramLocations.h"
 #include "forms/CommitFailureReport.h"
 #include "forms/DesignFont.h"

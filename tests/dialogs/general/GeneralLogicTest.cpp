@@ -1,6 +1,6 @@
 // The parts of the general dialog that need no window: stored values to
 // options, the quote that OK refuses, the file dialog's filter and answer.
-#include "dialogs/general/GeneralLoad.h"
+#include "model/GeneralLoad.h"
 #include "dialogs/general/ProgramLocations.h"
 #include "model/GeneralCommit.h"
 #include "support/ScratchPrefix.h"

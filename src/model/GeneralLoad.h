@@ -1,8 +1,14 @@
 #pragma once
+// Model layer (src/model): installation settings, legends, variables and
+// Lisp files, without a window; it sees the platform alone.
+//
 // What Form_Load of CGeneralForm copies from GeneralVariables into its
 // controls: the text fields in their order of filling, the option buttons
-// that stored values select, and the states of the check boxes.
+// that stored values select, and the states of the check boxes. The settings
+// tool starts from the same controls, so that it writes what the dialog's OK
+// writes right after opening.
 
+#include "model/GeneralCommit.h"
 #include "model/GeneralVariables.h"
 
 #include <QStringList>
@@ -71,5 +77,17 @@ QStringList StoredSelections(const GeneralVariables& variables);
 // box: the value as a whole number. Nothing for a text that is no number or
 // lies outside 0 to 2; the box then keeps its design state.
 std::optional<int> StoredCheckState(const QString& stored);
+
+// The buttons that the form selects by its design, before any load; the
+// check boxes are empty by design.
+inline constexpr std::array<const char*, 2> kDesignSelectedOptions = {"Option4(4)", "Option5(0)"};
+
+// The controls as Form_Load leaves them: every field with the text form of
+// its variable, each group with the button of its stored value (or of the
+// design), each check box with its stored state (or empty).
+GeneralControlState LoadedControlState(const GeneralVariables& variables);
+
+// The option group of a button: "Option4" of "Option4(5)".
+QString OptionGroupOf(const QString& button);
 
 } // namespace brimo

@@ -1,0 +1,63 @@
+#include "model/GeneralLoad.h"
+
+#include "model/GeneralVariableCatalogue.h"
+#include "platform/RegionalNumbers.h"
+
+#include <cmath>
+
+namespace brimo {
+
+namespace {
+
+bool matches(const StoredChoice& choice, const QString& stored) {
+    if (choice.comparison == StoredComparison::ExactText) return stored == QLatin1String(choice.value);
+    const Conversion number = TextToDouble(stored);
+    return number.ok() && number.value == QString::fromLatin1(choice.value).toDouble();
+}
+
+} // namespace
+
+QStringList StoredSelections(const GeneralVariables& variables) {
+    QStringList buttons;
+    QString decidedKey;
+    for (const StoredChoice& choice : kStoredChoices) {
+        if (decidedKey == QLatin1String(choice.key)) continue;
+        if (!matches(choice, variables.text(QString::fromLatin1(choice.key)))) continue;
+        buttons.append(QLatin1String(choice.button));
+        decidedKey = QLatin1String(choice.key);
+    }
+    return buttons;
+}
+
+std::optional<int> StoredCheckState(const QString& stored) {
+    const Conversion number = TextToDouble(stored);
+    if (!number.ok()) return std::nullopt;
+    // A whole number as the toolkit makes one: halves go to the even side.
+    const double whole = std::nearbyint(number.value);
+    if (whole < 0 || whole > 2) return std::nullopt;
+    return static_cast<int>(whole);
+}
+
+QString OptionGroupOf(const QString& button) { return button.section(QLatin1Char('('), 0, 0); }
+
+GeneralControlState LoadedControlState(const GeneralVariables& variables) {
+    GeneralControlState state;
+    for (const GeneralVariableRow& row : kGeneralVariableCatalogue) {
+        const QString field = QLatin1String(row.field);
+        if (field.startsWith(QLatin1String("Val")) || field.startsWith(QLatin1String("Text")))
+            state.texts.insert(field, variables.text(QLatin1String(row.key)));
+    }
+    for (const char* button : kDesignSelectedOptions) state.selectedOptions.insert(QLatin1String(button));
+    // A selected button deselects the others of its group, as option buttons do.
+    for (const QString& button : StoredSelections(variables)) {
+        const QString group = OptionGroupOf(button);
+        erase_if(state.selectedOptions, [&](const QString& other) { return OptionGroupOf(other) == group; });
+        state.selectedOptions.insert(button);
+    }
+    for (const StoredCheck& stored : kStoredChecks)
+        state.checkStates.insert(QLatin1String(stored.checkBox),
+                                 StoredCheckState(variables.text(QLatin1String(stored.key))).value_or(0));
+    return state;
+}
+
+} // namespace brimo

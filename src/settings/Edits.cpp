@@ -1,0 +1,92 @@
+#include "settings/Edits.h"
+
+namespace brimo {
+
+namespace {
+
+QString quoted(const QString& text) { return QLatin1Char('"') + text + QLatin1Char('"'); }
+
+// A quote in a text that goes between quotes in the Lisp file: the same test
+// as the general dialog's OK, on this one field.
+bool unwritableQuote(const SettingKey& key, const QString& text) {
+    GeneralControlState probe;
+    probe.texts.insert(key.control, text);
+    return FindUnwritableQuote(probe).has_value();
+}
+
+} // namespace
+
+std::optional<QString> CheckedValue(const SettingKey& key, const QString& given, QString* error) {
+    switch (key.kind) {
+    case KeyKind::Choice:
+    case KeyKind::Flag:
+        if (key.choices.contains(given)) return given;
+        *error = QStringLiteral("%1: %2 is none of %3").arg(key.key, quoted(given), key.choices.join(QStringLiteral(", ")));
+        return std::nullopt;
+    case KeyKind::RuleText: {
+        const LeaveOutcome outcome = ApplyLeavingRule(*key.rule, given);
+        if (outcome.refused) {
+            *error = QStringLiteral("%1: %2 is no number").arg(key.key, quoted(given));
+            return std::nullopt;
+        }
+        if (unwritableQuote(key, outcome.text)) break;
+        return outcome.text;
+    }
+    case KeyKind::FreeText:
+        if (unwritableQuote(key, given)) break;
+        return given;
+    }
+    *error = QStringLiteral("%1: %2 holds a double quote, which would end its Lisp string").arg(key.key, quoted(given));
+    return std::nullopt;
+}
+
+std::optional<Edit> ParseEdit(SettingSection section, const QString& assignment, QString* error) {
+    const qsizetype equals = assignment.indexOf(QLatin1Char('='));
+    if (equals <= 0) {
+        *error = QStringLiteral("%1: not KEY=VALUE").arg(quoted(assignment));
+        return std::nullopt;
+    }
+    const QString name = assignment.left(equals);
+    const SettingKey* key = FindSettingKey(section, name);
+    if (!key) {
+        *error = QStringLiteral("%1: no key of the %2 settings").arg(name, DialogName(section));
+        return std::nullopt;
+    }
+    const std::optional<QString> value = CheckedValue(*key, assignment.mid(equals + 1), error);
+    if (!value) return std::nullopt;
+    return Edit{key, *value};
+}
+
+void ApplyEdits(GeneralControlState& state, const QList<Edit>& edits) {
+    for (const Edit& edit : edits) {
+        const QString& control = edit.key->control;
+        switch (edit.key->kind) {
+        case KeyKind::RuleText:
+        case KeyKind::FreeText: state.texts.insert(control, edit.value); break;
+        case KeyKind::Flag: state.checkStates.insert(control, edit.value.toInt()); break;
+        case KeyKind::Choice:
+            // One button of a group is selected: the one whose test gives the value.
+            erase_if(state.selectedOptions, [&](const QString& button) { return button.startsWith(control + QLatin1Char('(')); });
+            for (const ChoiceTest& test : kGeneralChoiceTests)
+                if (QLatin1String(test.button).startsWith(control + QLatin1Char('(')) && edit.value == QLatin1String(test.value))
+                    state.selectedOptions.insert(QLatin1String(test.button));
+            break;
+        }
+    }
+}
+
+void ApplyEdits(SlopeControlState& state, const QList<Edit>& edits) {
+    for (const Edit& edit : edits) {
+        const QString& control = edit.key->control;
+        if (control == QLatin1String("Check1")) {
+            state.check1Ticked = edit.value == QLatin1String("polyligne");
+            state.check2Ticked = !state.check1Ticked;
+        } else if (control == QLatin1String("Option1")) {
+            state.option2Chosen = edit.value == QLatin1String("3");
+        } else {
+            state.texts[static_cast<std::size_t>(control.mid(4).toInt() - 1)] = edit.value; // Text1 to Text6
+        }
+    }
+}
+
+} // namespace brimo

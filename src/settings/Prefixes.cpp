@@ -1,0 +1,36 @@
+#include "settings/Commands.h"
+
+#include "platform/WindowsPaths.h"
+
+#include <QFileInfo>
+
+#include <cstdio>
+
+namespace brimo {
+
+void Print(const QString& text) { std::fputs(text.toUtf8().constData(), stdout); }
+
+void Complain(const QString& text) {
+    std::fflush(stdout);
+    std::fputs(("brimo-settings: " + text + QLatin1Char('\n')).toUtf8().constData(), stderr);
+}
+
+int ForEachPrefix(const Options& options, const std::function<bool(const QString& prefix)>& each) {
+    // No --prefix: the one of the environment, as the program finds it.
+    const QStringList prefixes = options.prefixes.isEmpty() ? QStringList{QString()} : options.prefixes;
+    int failures = 0;
+    for (const QString& prefix : prefixes) {
+        SetWinePrefix(prefix);
+        const QString inForce = WinePrefix();
+        if (!QFileInfo(inForce).isDir()) {
+            Complain(QStringLiteral("%1: no such folder").arg(inForce));
+            ++failures;
+        } else if (!each(inForce)) {
+            ++failures;
+        }
+    }
+    SetWinePrefix(QString());
+    return failures;
+}
+
+} // namespace brimo

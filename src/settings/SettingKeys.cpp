@@ -1,0 +1,77 @@
+#include "settings/SettingKeys.h"
+
+#include "model/GeneralCommit.h"
+#include "model/GeneralVariableCatalogue.h"
+
+namespace brimo {
+
+namespace {
+
+// The values that a row of the general commit takes from its option group.
+QStringList choicesOfGroup(const QString& group) {
+    int row = 0;
+    for (const CommitSource& source : kGeneralCommitSources)
+        if (group == QLatin1String(source.control)) row = source.row;
+    QStringList values;
+    for (const ChoiceTest& test : kGeneralChoiceTests)
+        if (test.row == row) values.append(QString::fromLatin1(test.value));
+    return values;
+}
+
+SettingKey generalKey(const GeneralVariableRow& row) {
+    SettingKey key{QString::fromLatin1(row.key), QString::fromLatin1(row.field), KeyKind::FreeText, nullptr, {}};
+    if (key.control.startsWith(QLatin1String("Option"))) { // x_lang is a text held by an option group
+        key.kind = KeyKind::Choice;
+        key.choices = choicesOfGroup(key.control);
+    } else if (row.type == ValueType::Flag) {
+        key.kind = KeyKind::Flag;
+        key.choices = {QStringLiteral("0"), QStringLiteral("1")};
+    } else if ((key.rule = FindFieldRule(GeneralFieldRules(), key.control))) {
+        key.kind = KeyKind::RuleText;
+    }
+    return key;
+}
+
+QList<SettingKey> generalKeys() {
+    QList<SettingKey> keys;
+    for (const GeneralVariableRow& row : kGeneralVariableCatalogue) keys.append(generalKey(row));
+    return keys;
+}
+
+// The slope keys in the order of the commit: the drawing's look (Check1 or
+// Check2), its kind (Option1 or Option2), then the six fields.
+QList<SettingKey> slopeKeys() {
+    QList<SettingKey> keys = {
+        {QStringLiteral("x_QZ_asp_dess"), QStringLiteral("Check1"), KeyKind::Choice, nullptr,
+         {QStringLiteral("polyligne"), QStringLiteral("points")}},
+        {QStringLiteral("x_QZ_des_tal"), QStringLiteral("Option1"), KeyKind::Choice, nullptr,
+         {QStringLiteral("2"), QStringLiteral("3")}},
+    };
+    for (const FieldRule& rule : SlopeFieldRules())
+        keys.append({QString::fromLatin1(rule.key), QString::fromLatin1(rule.control), KeyKind::RuleText, &rule, {}});
+    return keys;
+}
+
+} // namespace
+
+const QList<SettingKey>& SettingKeys(SettingSection section) {
+    static const QList<SettingKey> general = generalKeys();
+    static const QList<SettingKey> slope = slopeKeys();
+    return section == SettingSection::General ? general : slope;
+}
+
+const SettingKey* FindSettingKey(SettingSection section, const QString& name) {
+    for (const SettingKey& key : SettingKeys(section))
+        if (key.key.compare(name, Qt::CaseInsensitive) == 0) return &key;
+    return nullptr;
+}
+
+QString SectionName(SettingSection section) {
+    return section == SettingSection::General ? QStringLiteral("Brimo_Gene") : QStringLiteral("Brimo_Talus");
+}
+
+QString DialogName(SettingSection section) {
+    return section == SettingSection::General ? QStringLiteral("general") : QStringLiteral("slope");
+}
+
+} // namespace brimo

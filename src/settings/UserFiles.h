@@ -1,0 +1,55 @@
+#pragma once
+// Settings tool (src/settings): brimo-settings, the dialogs' settings from the
+// command line; it sees platform and model, and nothing sees it.
+//
+// One user's settings in the prefix in force: what each dialog shows of them,
+// and the rows that its OK writes once the given values are in place.
+
+#include "model/GeneralVariables.h"
+#include "model/InstallInfo.h"
+#include "model/VariableCommit.h"
+#include "platform/ProfileDocument.h"
+#include "settings/Edits.h"
+
+#include <optional>
+
+namespace brimo {
+
+struct ShownValue {
+    QString key;
+    QString value;
+    bool stored; // from Brimo.ini; otherwise the default
+};
+
+class UserFiles {
+public:
+    // Reads zorel.ini and Brimo.ini as the program's entry does; `user`
+    // stands in for [Users] actuel.
+    explicit UserFiles(const std::optional<QString>& user);
+
+    const InstallInfo& info() const { return info_; }
+
+    // Each key of the section with the text the dialog starts from: the
+    // stored text, or the default (the form's design for the slope dialog).
+    QList<ShownValue> values(SettingSection section) const;
+
+    // The text stored for a key now, empty when there is none.
+    QString storedText(SettingSection section, const QString& key) const;
+
+    // The rows of the dialog's OK after `edits`, from the controls as the
+    // dialog opens: the general dialog with the stored values, the slope
+    // dialog with its design. Nothing, with `error`, when a stored text holds
+    // a double quote that the general dialog's OK would refuse.
+    std::optional<QList<CommittedRow>> commitRows(SettingSection section, const QList<Edit>& edits,
+                                                  QString* error) const;
+
+    // Adds that commit to `plan`.
+    void addTo(CommitPlan& plan, SettingSection section, const QList<CommittedRow>& rows) const;
+
+private:
+    InstallInfo info_;
+    ProfileDocument ini_;
+    GeneralVariables variables_;
+};
+
+} // namespace brimo

@@ -1,0 +1,24 @@
+#!/usr/bin/env bash
+# Validates what the package ships: the .desktop entry, the AppStream
+# metainfo, and the built .deb under lintian (errors fail, warnings do not).
+# Skips (77) when the validator is not installed.
+# Usage: validate.sh desktop|metainfo|lintian SOURCE_DIR BUILD_DIR
+set -euo pipefail
+what=$1 source=$2 build=$3
+
+need() { command -v "$1" >/dev/null || { echo "$1 not installed: skipped"; exit 77; }; }
+
+case $what in
+  desktop)
+    need desktop-file-validate
+    desktop-file-validate "$source/share/applications/brimo.desktop" ;;
+  metainfo)
+    need appstreamcli
+    appstreamcli validate --no-net "$source/share/metainfo/org.example.brimo.metainfo.xml" ;;
+  lintian)
+    need lintian
+    out=$(mktemp -d)
+    trap 'rm -rf "$out"' EXIT
+    (cd "$build" && cpack -B "$out" >/dev/null)
+    lintian --fail-on error --no-tag-display-limit "$out"/*.deb ;;
+esac

@@ -1,0 +1,182 @@
+// brimo-settings set against the dialogs' OK: the same values, typed into the
+// fields or given on the command line, must give the same bytes in both
+// files. Run under a point-decimal and a comma-decimal locale.
+#include "SettingsRun.h"
+#include "dialogs/general/GeneralFormFixture.h"
+#include "dialogs/slope/CParamRechTalus.h"
+#include "model/GeneralCommit.h"
+#include "model/FieldRules.h"
+#include "model/GeneralVariableCatalogue.h"
+
+#include <QCheckBox>
+#include <QFile>
+#include <QKeyEvent>
+#include <QLocale>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QTabWidget>
+#include <QTest>
+
+namespace brimo::test {
+namespace {
+
+using Values = QList<QPair<const char*, const char*>>; // key, value (UTF-8)
+
+struct ParityCase {
+    const char* name;
+    QByteArray storedIni; // Brimo.ini before; empty: none
+    Values values;
+    char decimal = 0;     // run only under this decimal symbol (a text that
+                          // one locale repairs, the other refuses)
+};
+
+const ParityCase kGeneralCases[] = {
+    {"defaults", {}, {}},
+    {"stored values, odd ones too",
+     "[Brimo_Gene]\r\ncadre_usery=900\r\nx_ht_gc1=abc\r\nx_def_ounit=5\r\nx_chttt=7\r\nAffiProfil=2\r\n"
+     "x_chtlay=1\r\npath_win5=D:\\Outils\\prog.exe\r\nx_chtxt=1\r\n[Brimo_Talus]\r\nx_QZ_tal_dh=9\r\n",
+     {}},
+    {"rule repairs",
+     "[Brimo_Gene]\r\ncadre_usery=900\r\n",
+     {{"cadre_usery", ""}, {"cadre_decal", "-2.50"}, {"x_color_zm10", "300"},
+      {"cadre_couleur", "256.5"}, {"cadre_layer", ""}, {"x_compress", "2,5"}, {"x_color_gcc", "1e400"},
+      {"x_incli", "-12"}, {"x_ht_gc15", "1e39"}}},
+    {"leading point", {}, {{"x_ht_gc1", ".5"}, {"x_ht_gc2", "-.5"}, {"x_ht_gcc", "-2.50"}}, '.'},
+    {"decimal comma", {}, {{"x_ht_gc1", "-,5"}, {"x_ht_gc2", "-2,50"}, {"x_incli", "-1,25"}}, ','},
+    {"texts and paths",
+     {},
+     {{"x_nom_bureau", "Bureau d'études Nord"}, {"x_lieu_bureau", "Genève"}, {"Path_Win1", "D:\\Outils\\x.exe"},
+      {"Path_Win5", ""}, {"x_style_cot", "  "}}},
+    {"choices and check boxes",
+     "[Brimo_Gene]\r\nx_chtlay=1\r\n",
+     {{"x_def_ounit", "0"}, {"x_def_punit", "2"}, {"x_chttt", "3"}, {"x_lang", "DEU"}, {"affilogoKVO", "0"},
+      {"x_chtlay", "0"}, {"AffiProfil", "1"}}},
+    {"language FRA", "[Brimo_Gene]\r\nx_lang=FRA\r\n", {{"x_nom_bureau", "Un"}}},
+    {"language ENG", "[Brimo_Gene]\r\nx_lang=ENG\r\n", {{"x_nom_bureau", "Two"}}},
+    {"language DEU", "[Brimo_Gene]\r\nx_lang=DEU\r\n", {{"x_nom_bureau", "Drei"}}},
+    {"language ITA", "[Brimo_Gene]\r\nx_lang=ITA\r\n", {{"x_ht_gc2", "-3"}}},
+};
+
+const ParityCase kSlopeCases[] = {
+    {"opening values", "[Brimo_Talus]\r\nx_QZ_tal_dh=9\r\n", {}},
+    {"repairs and choices",
+     {},
+     {{"x_QZ_tal_dh", "-4"}, {"x_QZ_tal_max", ""}, {"x_QZ_fact_flch", "2,5"}, {"x_QZ_ecart_pts", "0.5"},
+      {"x_QZ_asp_dess", "points"}, {"x_QZ_des_tal", "3"}}},
+};
+
+class SettingsParityTest : public GeneralFormTest {
+protected:
+    void SetUp() override {
+        GeneralFormTest::SetUp();
+        writeLegends(QStringLiteral("ENG"));
+        writeLegends(QStringLiteral("ITA"));
+    }
+
+    void resetFiles(const ParityCase& c) {
+        for (const QString& path : {kIniPath, kLispPath, kTalusPath}) QFile::remove(prefix.native(path));
+        if (!c.storedIni.isEmpty()) writeBrimoIni(c.storedIni);
+    }
+
+    QByteArray files() const { return "--- ini\n" + ini() + "--- gene\n" + lisp() + "--- talus\n" + prefix.read(kTalusPath); }
+
+    void typeAndLeave(QLineEdit* field, const QString& text) {
+        if (auto* tabs = form ? form->findChild<QTabWidget*>(QStringLiteral("SSTab1")) : nullptr)
+            for (int tab = 0; tab < tabs->count(); ++tab)
+                if (tabs->widget(tab)->isAncestorOf(field)) tabs->setCurrentIndex(tab);
+        field->setFocus(Qt::TabFocusReason);
+        field->selectAll();
+        QTest::keyClick(field, Qt::Key_Delete);
+        // QTest types ASCII only: other characters come as key events with their text.
+        for (const QChar c : text) {
+            QKeyEvent press(QEvent::KeyPress, Qt::Key_unknown, Qt::NoModifier, QString(c));
+            QApplication::sendEvent(field, &press);
+        }
+        QTest::keyClick(field, Qt::Key_Tab);
+    }
+
+    // The general dialog: each value typed into its field or chosen.
+    void generalDialog(const Values& values) {
+        services = std::make_unique<FormServices>();
+        open();
+        for (const auto& [key, value] : values) {
+            const char* control = nullptr;
+            for (const GeneralVariableRow& row : kGeneralVariableCatalogue)
+                if (QString::fromLatin1(row.key).compare(QLatin1String(key), Qt::CaseInsensitive) == 0) control = row.field;
+            const QString name = QLatin1String(control);
+            if (name.startsWith(QLatin1String("Check")))
+                find<QCheckBox>(name)->setCheckState(QLatin1String(value) == "1" ? Qt::Checked : Qt::Unchecked);
+            else if (name.startsWith(QLatin1String("Option")))
+                for (const ChoiceTest& test : kGeneralChoiceTests)
+                    if (QLatin1String(test.button).startsWith(name + '(') && QLatin1String(test.value) == value)
+                        find<QRadioButton>(QLatin1String(test.button))->setChecked(true);
+            if (name.startsWith(QLatin1String("Val")) || name.startsWith(QLatin1String("Text")))
+                typeAndLeave(find<QLineEdit>(name), QString::fromUtf8(value));
+        }
+        static_cast<QPushButton*>(find<QWidget>(QStringLiteral("cmdOK")))->click();
+        ASSERT_EQ(ends(), QList<int>{0});
+        form = nullptr;
+    }
+
+    void slopeDialog(const Values& values) {
+        services = std::make_unique<FormServices>();
+        services->load();
+        auto* slope = services->show(new CParamRechTalus(*services, services->info, services->legends));
+        slope->activateWindow();
+        ASSERT_TRUE(QTest::qWaitForWindowActive(slope));
+        for (const auto& [key, value] : values) {
+            const QString text = QString::fromUtf8(value);
+            if (QLatin1String(key) == "x_QZ_asp_dess")
+                slope->findChild<QCheckBox*>(text == "points" ? "Check2" : "Check1")->setChecked(true);
+            else if (QLatin1String(key) == "x_QZ_des_tal")
+                slope->findChild<QRadioButton*>(text == "3" ? "Option2" : "Option1")->setChecked(true);
+            else
+                typeAndLeave(slope->findChild<QLineEdit*>(slopeField(key)), text);
+        }
+        slope->findChild<QPushButton*>("Command1")->click();
+        ASSERT_EQ(ends(), QList<int>{0});
+    }
+
+    static QString slopeField(const char* key) {
+        for (const FieldRule& rule : SlopeFieldRules())
+            if (QLatin1String(rule.key) == key) return QLatin1String(rule.control);
+        return {};
+    }
+
+    QByteArray viaTool(const QStringList& dialog, const Values& values) {
+        QStringList arguments = QStringList{QStringLiteral("set"), QStringLiteral("--prefix"), prefix.root()} + dialog;
+        for (const auto& [key, value] : values) arguments.append(QLatin1String(key) + '=' + QString::fromUtf8(value));
+        const SettingsRun run = RunSettings(arguments);
+        EXPECT_TRUE(run.status == 0 || run.status == 1) << run.errors.toStdString();
+        return files();
+    }
+
+    static inline const QString kTalusPath = QStringLiteral("C:\\Zorel\\Var\\jo\\Brimo_Talus.lsp");
+};
+
+TEST_F(SettingsParityTest, SetWritesWhatTheGeneralDialogsOkWrites) {
+    for (const ParityCase& c : kGeneralCases) {
+        if (c.decimal && QLocale::system().decimalPoint() != QLatin1Char(c.decimal)) continue;
+        SCOPED_TRACE(c.name);
+        resetFiles(c);
+        generalDialog(c.values);
+        const QByteArray dialog = files();
+        resetFiles(c);
+        EXPECT_EQ(viaTool({}, c.values), dialog);
+    }
+}
+
+TEST_F(SettingsParityTest, SetWritesWhatTheSlopeDialogsOkWrites) {
+    for (const ParityCase& c : kSlopeCases) {
+        SCOPED_TRACE(c.name);
+        resetFiles(c);
+        slopeDialog(c.values);
+        const QByteArray dialog = files();
+        resetFiles(c);
+        EXPECT_EQ(viaTool({QStringLiteral("--dialog"), QStringLiteral("slope")}, c.values), dialog);
+    }
+}
+
+} // namespace
+} // namespace brimo::test
