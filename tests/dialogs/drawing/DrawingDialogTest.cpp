@@ -4,6 +4,7 @@
 
 #include "dialogs/drawing/CVarGlobale.h"
 #include "dialogs/drawing/DrawingControls.h"
+#include "forms/RowTabControl.h"
 #include "forms/WindowServices.h"
 #include "support/ScratchPrefix.h"
 
@@ -13,7 +14,6 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QTabWidget>
 #include <QtTest>
 
 using namespace brimo;
@@ -30,7 +30,7 @@ QString shownText(QWidget* widget) {
 }
 
 // The tab whose page holds the widget, or -1 outside the tab control.
-int tabOf(QWidget* widget, QTabWidget* tabs) {
+int tabOf(QWidget* widget, RowTabControl* tabs) {
     for (QWidget* w = widget; w; w = w->parentWidget())
         if (int index = tabs->indexOf(w); index >= 0) return index;
     return -1;
@@ -60,7 +60,7 @@ private slots:
         QVERIFY(dialog_->windowFlags() & Qt::WindowMaximizeButtonHint);
         QVERIFY(dialog_->maximumSize().width() > dialog_->width()); // resizable
 
-        auto* tabs = control<QTabWidget>("SSTab1");
+        auto* tabs = control<RowTabControl>("SSTab1");
         QCOMPARE(tabs->geometry(), TwipsRect(364, 234, 9477, 5161));
         const QStringList captions{"Courbes de niveau", "Report de points", "Talus", "Textes", "Général", "Profil"};
         QCOMPARE(tabs->count(), captions.size());
@@ -72,7 +72,7 @@ private slots:
     // counted from the tab control's corner, and on the tab of its row.
     void everyControlInPlace() {
         QVERIFY(QTest::qWaitForWindowExposed(dialog_));
-        auto* tabs = control<QTabWidget>("SSTab1");
+        auto* tabs = control<RowTabControl>("SSTab1");
         QHash<QString, int> tabOfName;
         for (const DrawingControl& row : DrawingControls()) {
             const QString name = QString::fromLatin1(row.name);
@@ -151,7 +151,7 @@ private slots:
         QWidget* widget = control(name);
         QVERIFY(widget);
         QCOMPARE(shownText(widget), text);
-        QCOMPARE(tabOf(widget, control<QTabWidget>("SSTab1")), tab);
+        QCOMPARE(tabOf(widget, control<RowTabControl>("SSTab1")), tab);
         QVERIFY(widget->isEnabled());
         if (checkState >= 0) QCOMPARE(int(qobject_cast<QCheckBox*>(widget)->checkState()), checkState);
         if (auto* field = qobject_cast<QLineEdit*>(widget))
@@ -188,7 +188,48 @@ private slots:
         QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
         init();
         QCOMPARE(control<QLineEdit>("Val15")->text(), QStringLiteral("Nom du bureau"));
-        QCOMPARE(control<QTabWidget>("SSTab1")->currentIndex(), 2);
+        QCOMPARE(control<RowTabControl>("SSTab1")->currentIndex(), 2);
+    }
+
+    // Two rows of three tabs; the row of the current tab stands next to the
+    // page, whether the tab was reached by the keyboard or by the mouse.
+    void tabRows_data() {
+        QTest::addColumn<int>("start");
+        QTest::addColumn<QString>("focus"); // SSTab1: the tabs themselves
+        QTest::addColumn<int>("key");       // 0: a click on the tab `expected`
+        QTest::addColumn<int>("modifiers");
+        QTest::addColumn<int>("expected");
+        const int ctrl = Qt::ControlModifier;
+        QTest::newRow("arrow to the far row") << 2 << "SSTab1" << int(Qt::Key_Right) << 0 << 3;
+        QTest::newRow("arrow back") << 3 << "SSTab1" << int(Qt::Key_Up) << 0 << 2;
+        QTest::newRow("arrow stops at the end") << 5 << "SSTab1" << int(Qt::Key_Down) << 0 << 5;
+        QTest::newRow("arrow stops at the start") << 0 << "SSTab1" << int(Qt::Key_Left) << 0 << 0;
+        QTest::newRow("End") << 2 << "SSTab1" << int(Qt::Key_End) << 0 << 5;
+        QTest::newRow("Ctrl+Tab from a field") << 0 << "Text4(0)" << int(Qt::Key_Tab) << ctrl << 1;
+        QTest::newRow("Ctrl+Shift+Tab round the start")
+            << 0 << "Text4(0)" << int(Qt::Key_Backtab) << int(ctrl | Qt::ShiftModifier) << 5;
+        QTest::newRow("Ctrl+PgDown round the end") << 5 << "SSTab1" << int(Qt::Key_PageDown) << ctrl << 0;
+        QTest::newRow("Ctrl+PgUp from a field") << 4 << "Val15" << int(Qt::Key_PageUp) << ctrl << 3;
+        QTest::newRow("click on the far row") << 2 << "SSTab1" << 0 << 0 << 4;
+    }
+    void tabRows() {
+        QFETCH(int, start);
+        QFETCH(QString, focus);
+        QFETCH(int, key);
+        QFETCH(int, modifiers);
+        QFETCH(int, expected);
+        QVERIFY(QTest::qWaitForWindowActive(dialog_));
+        auto* tabs = control<RowTabControl>("SSTab1");
+        tabs->setCurrentIndex(start);
+        control(focus)->setFocus(Qt::OtherFocusReason);
+        if (key) QTest::keyClick(QApplication::focusWidget(), Qt::Key(key), Qt::KeyboardModifiers(modifiers));
+        else QTest::mouseClick(tabs, Qt::LeftButton, {}, tabs->tabRect(expected).center());
+        QCOMPARE(tabs->currentIndex(), expected);
+        for (int tab = 0; tab < tabs->count(); ++tab) {
+            const bool nearRow = tabs->rowOf(tab) == tabs->rowOf(expected);
+            QVERIFY(tabs->tabRect(tab).top() < tabs->pageArea().top());
+            QCOMPARE(tabs->tabRect(tab).top() > 0, nearRow);
+        }
     }
 
     void tabOrderOfTheWindow() {
