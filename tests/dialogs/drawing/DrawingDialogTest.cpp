@@ -193,42 +193,26 @@ private slots:
 
     // Two rows of three tabs; the row of the current tab stands next to the
     // page, whether the tab was reached by the keyboard or by the mouse.
-    void tabRows_data() {
-        QTest::addColumn<int>("start");
-        QTest::addColumn<QString>("focus"); // SSTab1: the tabs themselves
-        QTest::addColumn<int>("key");       // 0: a click on the tab `expected`
-        QTest::addColumn<int>("modifiers");
-        QTest::addColumn<int>("expected");
-        const int ctrl = Qt::ControlModifier;
-        QTest::newRow("arrow to the far row") << 2 << "SSTab1" << int(Qt::Key_Right) << 0 << 3;
-        QTest::newRow("arrow back") << 3 << "SSTab1" << int(Qt::Key_Up) << 0 << 2;
-        QTest::newRow("arrow stops at the end") << 5 << "SSTab1" << int(Qt::Key_Down) << 0 << 5;
-        QTest::newRow("arrow stops at the start") << 0 << "SSTab1" << int(Qt::Key_Left) << 0 << 0;
-        QTest::newRow("End") << 2 << "SSTab1" << int(Qt::Key_End) << 0 << 5;
-        QTest::newRow("Ctrl+Tab from a field") << 0 << "Text4(0)" << int(Qt::Key_Tab) << ctrl << 1;
-        QTest::newRow("Ctrl+Shift+Tab round the start")
-            << 0 << "Text4(0)" << int(Qt::Key_Backtab) << int(ctrl | Qt::ShiftModifier) << 5;
-        QTest::newRow("Ctrl+PgDown round the end") << 5 << "SSTab1" << int(Qt::Key_PageDown) << ctrl << 0;
-        QTest::newRow("Ctrl+PgUp from a field") << 4 << "Val15" << int(Qt::Key_PageUp) << ctrl << 3;
-        QTest::newRow("click on the far row") << 2 << "SSTab1" << 0 << 0 << 4;
-    }
     void tabRows() {
-        QFETCH(int, start);
-        QFETCH(QString, focus);
-        QFETCH(int, key);
-        QFETCH(int, modifiers);
-        QFETCH(int, expected);
         QVERIFY(QTest::qWaitForWindowActive(dialog_));
         auto* tabs = control<RowTabControl>("SSTab1");
-        tabs->setCurrentIndex(start);
-        control(focus)->setFocus(Qt::OtherFocusReason);
-        if (key) QTest::keyClick(QApplication::focusWidget(), Qt::Key(key), Qt::KeyboardModifiers(modifiers));
-        else QTest::mouseClick(tabs, Qt::LeftButton, {}, tabs->tabRect(expected).center());
-        QCOMPARE(tabs->currentIndex(), expected);
-        for (int tab = 0; tab < tabs->count(); ++tab) {
-            const bool nearRow = tabs->rowOf(tab) == tabs->rowOf(expected);
-            QVERIFY(tabs->tabRect(tab).top() < tabs->pageArea().top());
-            QCOMPARE(tabs->tabRect(tab).top() > 0, nearRow);
+        const Qt::KeyboardModifiers ctrl = Qt::ControlModifier;
+        // From tab `start` with the focus on `focus` (SSTab1: the tabs), a key
+        // (Key_unknown: a click on the tab `expected`) goes to tab `expected`.
+        const struct { int start; const char* focus; Qt::Key key; Qt::KeyboardModifiers mods; int expected; } rows[] = {
+            {2, "SSTab1", Qt::Key_Right, {}, 3}, {5, "SSTab1", Qt::Key_Down, {}, 5}, {4, "SSTab1", Qt::Key_Home, {}, 0},
+            {0, "Text4(0)", Qt::Key_Tab, ctrl, 1}, {0, "Text4(0)", Qt::Key_Backtab, ctrl | Qt::ShiftModifier, 5},
+            {5, "SSTab1", Qt::Key_PageDown, ctrl, 0}, {4, "Val15", Qt::Key_PageUp, ctrl, 3},
+            {2, "SSTab1", Qt::Key_unknown, {}, 4},
+        };
+        for (const auto& row : rows) {
+            tabs->setCurrentIndex(row.start);
+            control(row.focus)->setFocus(Qt::OtherFocusReason);
+            if (row.key != Qt::Key_unknown) QTest::keyClick(QApplication::focusWidget(), row.key, row.mods);
+            else QTest::mouseClick(tabs, Qt::LeftButton, {}, tabs->tabRect(row.expected).center());
+            QCOMPARE(tabs->currentIndex(), row.expected);
+            for (int tab = 0; tab < tabs->count(); ++tab)
+                QCOMPARE(tabs->tabRect(tab).top() > 0, tabs->rowOf(tab) == tabs->rowOf(row.expected));
         }
     }
 

@@ -2,8 +2,8 @@
 # The real program, started with "VGene": Tab reaches the layer field, a new
 # name is typed, Enter presses OK. Both files must hold the expected bytes.
 # Then a second start switches to German by the keyboard alone: Shift+Tab to
-# the tabs, arrows to tab 4, Shift+Tab back into the languages, where the
-# focus enters on the selected "Français", an arrow to "Allemand", Enter.
+# the tabs, arrows to tab 4, Shift+Tab into the languages, where the focus
+# enters on the selected "Français", an arrow to "Allemand", Enter.
 source "$(dirname "$0")/../../e2e/lib.sh"
 e2e_setup "$1"
 
@@ -139,13 +139,10 @@ INI
 printf '%s\n' "$expected_lisp" | sed 's/_$/ /; s/$/\r/' | iconv -f UTF-8 -t CP1252 > "$E2E_DIR/expected.lsp"
 printf '%s\n' "$expected_ini" | sed 's/$/\r/' | iconv -f UTF-8 -t CP1252 > "$E2E_DIR/expected.ini"
 
-# compare_files WHAT: both written files against expected.lsp and expected.ini
-compare_files() {
-  local failed=0
-  cmp "$E2E_DIR/expected.lsp" "$(e2e_native 'C:\Zorel\Var\jo\Brimo_Gene.lsp')" || failed=1
-  cmp "$E2E_DIR/expected.ini" "$(e2e_native 'C:\Zorel\Var\jo\Brimo.ini')" || failed=1
-  [ "$(wc -l < "$E2E_DIR/expected.lsp")" = 51 ] || failed=1
-  [ $failed = 0 ] || { echo "FAIL: the files differ ($1)"; exit 1; }
+compare_files() { # WHAT: both written files against the expected ones
+  cmp "$E2E_DIR/expected.lsp" "$(e2e_native 'C:\Zorel\Var\jo\Brimo_Gene.lsp')" &&
+    cmp "$E2E_DIR/expected.ini" "$(e2e_native 'C:\Zorel\Var\jo\Brimo.ini')" &&
+    [ "$(wc -l < "$E2E_DIR/expected.lsp")" = 51 ] || { echo "FAIL: the files differ ($1)"; exit 1; }
 }
 compare_files "layer name"
 
@@ -161,7 +158,6 @@ status=$(e2e_wait_exit)
 printf '%s\n' "$expected_lisp" | sed 's/"FRA"); Langue français_$/"DEU") ; Langue allemand/; s/$/\r/' |
   iconv -f UTF-8 -t CP1252 > "$E2E_DIR/expected.lsp"
 printf '%s\n' "$expected_ini" | sed 's/^x_lang=FRA$/x_lang=DEU/; s/$/\r/' | iconv -f UTF-8 -t CP1252 > "$E2E_DIR/expected.ini"
-grep -q 'Langue allemand' "$E2E_DIR/expected.lsp" && grep -q 'x_lang=DEU' "$E2E_DIR/expected.ini" ||
-  { echo "FAIL: the expected files lack German"; exit 1; }
+grep -q 'Langue allemand' "$E2E_DIR/expected.lsp" || { echo "FAIL: no German line expected"; exit 1; }
 compare_files "German"
 echo "PASS"

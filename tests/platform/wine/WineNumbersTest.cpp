@@ -12,9 +12,8 @@
 // Nothing in the program depends on the last bit: a number is converted from
 // a text only to test the text.
 //
-// The corpus holds the forms beyond plain numbers too: a sign after the
-// number, parentheses, the currency symbol of each locale ("$" and "€") and
-// hexadecimal and octal numbers ("&H10", "&O17").
+// The corpus holds a sign after the number, parentheses, the currency symbol
+// of each locale ("$", "€") and "&H10" and "&O17" forms too.
 //
 // Known differences, kept out of the compared corpus on purpose:
 //  - oleaut32 reads digits that follow a grouping symbol after a complete
@@ -66,17 +65,11 @@ const char* const kTexts[] = {
     "\xe2\x80\x83" "5", "\xe3\x80\x80" "5", "\xe2\x80\xaf" "5", "\xe2\x80\x8b" "5", "\xef\xbb\xbf" "5",
     "\xef\xbc\x95", "\xd9\xa5", "1E5", "1e+05", "12e", "1.5e3x", "1d5", "1D5", "1e5d", "inf", "nan",
     "Infinity", "0x10", "1_000", "1'000",
-    // A sign after the number, parentheses, currency symbols, hexadecimal and octal.
-    "5-", "8.-", "8,-", "75 +", "5 - ", " - 5 - ", "5--", "5+-", "-5-", "+5+", "5-+", "1e5-", "1e-5-", "1e5 +",
-    "(5)", "(-5)", "-(5)", "(5-)", "(5", "5)", "((5))", "(5))", "( 5 )", "(1,234.5)", "(1.234,5)", "(.5)",
-    "$5", "5$", "$ 5", "5 $", "-$5", "$-5", "($5)", "$(5)", "$$5", "5$$", "$5$", "$1,234.50", "$1.234,50",
-    "$.5", ".$5", "$1e5", "1e5$", "1$e5", "5$3", "$", "\xe2\x82\xac" "5", "5 \xe2\x82\xac", "-\xe2\x82\xac" "5",
-    "1.234,50 \xe2\x82\xac", "1,234.50 \xe2\x82\xac", "(\xe2\x82\xac" "5)", "\xe2\x82\xac" "1e5", "1e5\xe2\x82\xac",
-    "&H10", "&h10", "&O17", "&o17", "&H", "&O", "&H0", "&HFF", "&hff", "&HfF", "&H7FFFFFFF", "&H80000000",
-    "&H80000001", "&HFFFFFFFF", "&H100000000", "&HFFFFFFFFFFFFFFFF", "&H10000000000000000", "&O8", "&O78",
-    "&O37777777777", "&O20000000000", "-&H10", "+&H10", "(&H10)", "(&H10", "&H10-", "&H10 ", " &H10",
-    "&H1,0", "&H1.0", "&H10,", "&H1e5", "&H1G", "$&H10", "&H10$", ".&H10", "&H-10", "& H10", "&B10",
-    "&H00000000000000000000010",
+    // The other forms with longer numbers; the pieces of corpusOfTexts make the short ones.
+    "8.-", "8,-", "75 +", "1e5-", "1e-5-", "(1,234.5)", "(1.234,5)", "$1,234.50", "$1.234,50", "1.234,50 \xe2\x82\xac",
+    "1,234.50 \xe2\x82\xac", "&h10", "&o17", "&HfF", "&O17", "&H7FFFFFFF", "&H80000000", "&H80000001", "&HFFFFFFFF",
+    "&H100000000", "&HFFFFFFFFFFFFFFFF", "&H10000000000000000", "&O78", "&O37777777777", "&O20000000000", "&H1e5",
+    "&H1G", "&B10", "&H00000000000000000000010",
     // Ranges: single precision.
     "4e38", "3.5e38", "-3.5e38", "3.4e38", "3.402823466e38", "3.4028234664e38", "3.40282347e38",
     "3.4028235677e38", "3.40282356779733e38", "3.402823567797337e38", "3.4028235678e38", "-3.4028235678e38",
