@@ -80,10 +80,13 @@ for lang in FRA DEU; do
 done
 
 # The drawing variables dialog: from the chooser, Enter presses the focused
-# "Général" button; then Ctrl+Tab walks its tabs from tab 2.
+# "Général" button; Shift+Tab and Tab bring the focus back to the tabs by the
+# keyboard, so that the current tab shows it; then Ctrl+Tab walks its tabs
+# from tab 2, three a row, the row of the current tab next to the page.
 start FRA "" "Choix du module"
 xdotool key Return
 focus "Zorel2004 - Variables"
+xdotool key shift+Tab Tab; sleep 0.3
 for tab in 2 3 4 5 0 1; do
   shot drawing-tab$tab
   xdotool key ctrl+Tab; sleep 0.4

@@ -1,5 +1,7 @@
 #include "forms/BrimoForm.h"
 
+#include "forms/OptionGroupKeys.h"
+
 #include <QKeyEvent>
 
 #include <algorithm>
@@ -26,6 +28,12 @@ QWidget* BrimoForm::chainTabOrder(std::vector<std::pair<int, QWidget*>> stops) {
 void BrimoForm::keyPressEvent(QKeyEvent* event) {
     if (event->matches(QKeySequence::Cancel)) return;
     QDialog::keyPressEvent(event);
+}
+
+void BrimoForm::showEvent(QShowEvent* event) {
+    if (!groupKeysReady_) UseOptionGroupKeys(this);
+    groupKeysReady_ = true;
+    QDialog::showEvent(event);
 }
 
 } // namespace brimo

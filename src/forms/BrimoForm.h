@@ -29,6 +29,12 @@ protected:
     QWidget* chainTabOrder(std::vector<std::pair<int, QWidget*>> stops);
     // No form has a button bound to Escape: the key closes nothing.
     void keyPressEvent(QKeyEvent* event) override;
+    // At the first showing, once the form is built: the keyboard of its
+    // groups of option buttons.
+    void showEvent(QShowEvent* event) override;
+
+private:
+    bool groupKeysReady_ = false;
 };
 
 } // namespace brimo

@@ -4,6 +4,7 @@
 #include <QLocale>
 
 #include <cfloat>
+#include <cstdint>
 #include <cmath>
 #include <cstdio>
 #include <cstdlib>
@@ -17,6 +18,12 @@ QChar RegionalDecimalSymbol() {
 }
 
 QString RegionalGroupSymbol() { return QLocale::system().groupSeparator(); }
+
+// Settings without a currency symbol read "$", as oleaut32 does.
+QString RegionalCurrencySymbol() {
+    const QString symbol = QLocale::system().currencySymbol(QLocale::CurrencySymbol);
+    return symbol.isEmpty() ? QStringLiteral("$") : symbol;
+}
 
 namespace {
 
@@ -44,21 +51,67 @@ struct Symbols {
     }
 };
 
-// Reads the text into a C-locale number text; empty when it is no number.
+// What a text reads as: a decimal number as a C-locale text for strtod, or
+// the value of a hexadecimal or octal one; nothing when it is no number.
+struct Reading {
+    bool number = false;
+    QByteArray decimal;      // empty for a hexadecimal or octal number
+    double basedValue = 0.0; // a hexadecimal or octal number
+    bool basedOverflow = false;
+};
+
+bool startsWithAt(const QString& text, qsizetype i, const QString& part) {
+    return !part.isEmpty() && QStringView(text).sliced(i).startsWith(part);
+}
+
+// The digits of a hexadecimal (shift 4) or octal (shift 3) number. Beyond
+// 32 bits the value follows oleaut32: what fits a 32-bit integer read as
+// negative stands, the rest overflows.
+void readBased(const QString& text, qsizetype& i, int shift, Reading& reading) {
+    quint64 value = 0;
+    bool overflow = false;
+    for (; i < text.size(); ++i) {
+        const QChar c = text.at(i);
+        int digit;
+        if (isDigit(c)) digit = c.unicode() - '0';
+        else if (shift == 4 && c.toLower() >= QLatin1Char('a') && c.toLower() <= QLatin1Char('f'))
+            digit = c.toLower().unicode() - 'a' + 10;
+        else break;
+        if (digit >= (1 << shift)) break;
+        if (value > (~quint64(0) >> shift) - quint64(digit)) overflow = true;
+        value = (value << shift) + quint64(digit);
+        reading.number = true;
+    }
+    const auto negative = static_cast<qint64>(quint64(0) - value);
+    if (value <= quint64(INT32_MAX)) reading.basedValue = double(value);
+    else if (negative >= INT32_MIN) reading.basedValue = double(negative);
+    else overflow = true;
+    reading.basedOverflow = overflow;
+}
+
+// Reads the text as oleaut32 does (VarParseNumFromStr with every form allowed).
 //
-// The reading follows oleaut32: blanks and a sign (at most one '+' and one
-// '-') may come before the number; grouping symbols are ignored anywhere
-// after its first digit or its decimal symbol, but may not come before them;
-// the exponent's sign may be repeated; blanks and grouping symbols may follow
-// the number. Refused, where oleaut32 takes them: currency symbols,
-// parentheses, signs after the number, &H and &O numbers, and digits after a
-// complete exponent.
-QByteArray canonicalNumber(const QString& text) {
+// Before the number: blanks, one '+', one '-', the currency symbol once and
+// one '(' in any order, and possibly the decimal symbol that begins it;
+// grouping symbols may not come before the number. Then either "&H" or "&O"
+// and hexadecimal or octal digits (not after a currency symbol or a decimal
+// symbol; a sign is ignored there, as oleaut32 ignores it), or digits with
+// grouping symbols anywhere after the first digit or decimal symbol, one
+// decimal symbol and an exponent (E or e, signs that may repeat, digits; not
+// after a currency symbol). After the number: blanks, grouping symbols (not
+// after a hexadecimal or octal number), '+' unless one came before, '-'
+// unless one came before, ')' when '(' came before, and the currency symbol
+// (not after a hexadecimal or octal number). A '-' or a closing ')' makes the
+// number negative; a '(' without ')' or '-' is no number. Refused where
+// oleaut32 takes them: digits after a complete exponent ("1e5,3").
+Reading readNumber(const QString& text) {
     const Symbols symbols;
+    const QString currency = RegionalCurrencySymbol();
     const qsizetype n = text.size();
     qsizetype i = 0;
+    Reading reading;
 
-    bool plus = false, minus = false, decimalSeen = false;
+    bool plus = false, minus = false, currencySeen = false, parens = false, decimalSeen = false;
     while (i < n) {
         const QChar c = text.at(i);
         if (c == symbols.decimal) {
@@ -76,56 +129,93 @@ QByteArray canonicalNumber(const QString& text) {
         } else if (c == QLatin1Char('-') && !minus) {
             minus = true;
             ++i;
+        } else if (!currencySeen && startsWithAt(text, i, currency)) {
+            currencySeen = true;
+            i += currency.size();
+        } else if (c == QLatin1Char('(') && !parens) {
+            parens = true;
+            ++i;
         } else {
             break;
         }
     }
 
-    QByteArray out = minus ? "-" : "";
-    if (decimalSeen) out += '.';
-    bool digits = false;
-    enum { NoExponent, ExponentSign, ExponentDone } exponent = NoExponent;
-    bool negativeExponent = false;
-    QByteArray exponentDigits;
+    const bool based = !currencySeen && !decimalSeen && i + 1 < n && text.at(i) == QLatin1Char('&') &&
+                       QStringLiteral("HhOo").contains(text.at(i + 1));
+    if (based) {
+        const int shift = text.at(i + 1).toLower() == QLatin1Char('h') ? 4 : 3;
+        i += 2;
+        readBased(text, i, shift, reading);
+    } else {
+        QByteArray out = decimalSeen ? "." : "";
+        enum { NoExponent, ExponentSign, ExponentDone } exponent = NoExponent;
+        bool negativeExponent = false;
+        QByteArray exponentDigits;
+        while (i < n) {
+            const QChar c = text.at(i);
+            if (isDigit(c)) {
+                if (exponent == ExponentDone) return {};
+                if (exponent == ExponentSign) {
+                    while (i < n && isDigit(text.at(i))) exponentDigits += char(text.at(i++).unicode());
+                    exponent = ExponentDone;
+                    continue;
+                }
+                out += char(c.unicode());
+                reading.number = true;
+            } else if (symbols.isGroup(c)) {
+                // ignored
+            } else if (c == symbols.decimal && !decimalSeen && exponent == NoExponent) {
+                decimalSeen = true;
+                out += '.';
+            } else if ((c == QLatin1Char('e') || c == QLatin1Char('E')) && exponent == NoExponent && !currencySeen) {
+                exponent = ExponentSign;
+            } else if (exponent == ExponentSign && (c == QLatin1Char('+') || c == QLatin1Char('-'))) {
+                if (c == QLatin1Char('-')) negativeExponent = true;
+            } else {
+                break;
+            }
+            ++i;
+        }
+        if (exponent == ExponentSign) return {};
+        if (exponent == ExponentDone) out += (negativeExponent ? "e-" : "e+") + exponentDigits;
+        reading.decimal = out;
+    }
+
+    bool negative = minus;
     while (i < n) {
         const QChar c = text.at(i);
-        if (isDigit(c)) {
-            if (exponent == ExponentDone) return {};
-            if (exponent == ExponentSign) {
-                while (i < n && isDigit(text.at(i))) exponentDigits += char(text.at(i++).unicode());
-                exponent = ExponentDone;
-                continue;
-            }
-            out += char(c.unicode());
-            digits = true;
-        } else if (symbols.isGroup(c)) {
-            // ignored
-        } else if (c == symbols.decimal && !decimalSeen && exponent == NoExponent) {
-            decimalSeen = true;
-            out += '.';
-        } else if ((c == QLatin1Char('e') || c == QLatin1Char('E')) && exponent == NoExponent) {
-            exponent = ExponentSign;
-        } else if (exponent == ExponentSign && (c == QLatin1Char('+') || c == QLatin1Char('-'))) {
-            if (c == QLatin1Char('-')) negativeExponent = true;
+        if (symbols.isGroup(c)) {
+            if (based) break;
+            ++i;
+        } else if (isBlank(c)) {
+            ++i;
+        } else if (c == QLatin1Char('+') && !plus) {
+            ++i;
+        } else if (c == QLatin1Char('-') && !minus) {
+            negative = true;
+            ++i;
+        } else if (c == QLatin1Char(')') && parens) {
+            negative = true;
+            ++i;
+        } else if (!based && startsWithAt(text, i, currency)) {
+            i += currency.size();
         } else {
             break;
         }
-        ++i;
     }
-    if (!digits || exponent == ExponentSign) return {};
-    while (i < n && (isBlank(text.at(i)) || symbols.isGroup(text.at(i)))) ++i;
-    if (i != n) return {};
-    if (exponent == ExponentDone) out += (negativeExponent ? "e-" : "e+") + exponentDigits;
-    return out;
+    if (i != n || !reading.number || (parens && !negative)) return {};
+    if (negative && !based) reading.decimal.prepend('-');
+    return reading;
 }
 
 // The smallest single above zero; a smaller number does not fit a single.
 constexpr double kSmallestSingle = 1.40129846432481707e-45;
 
 Conversion convert(const QString& text, bool single) {
-    const QByteArray canonical = canonicalNumber(text);
-    if (canonical.isEmpty()) return {0.0, TypeMismatch};
-    const double value = std::strtod(canonical.constData(), nullptr);
+    const Reading reading = readNumber(text);
+    if (!reading.number) return {0.0, TypeMismatch};
+    if (reading.decimal.isEmpty()) return {reading.basedValue, reading.basedOverflow ? Overflow : 0};
+    const double value = std::strtod(reading.decimal.constData(), nullptr);
     if (std::isinf(value)) return {value, Overflow};
     if (single && (std::isinf(static_cast<float>(value)) || (value != 0 && std::fabs(value) < kSmallestSingle)))
         return {value, Overflow};

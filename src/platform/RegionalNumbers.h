@@ -17,11 +17,19 @@ struct Conversion {
     bool ok() const { return error == 0; }
 };
 
-// Blanks, a sign, digits with grouping symbols, one decimal symbol, an
-// exponent (E or e, a sign, digits), blanks: read as oleaut32 reads them (see
-// canonicalNumber in the source for the details). A single overflows when it
-// rounds to infinity (about 3.4028235E+38) or when it is not zero and below
-// the smallest single (about 1.4E-45).
+// Read as oleaut32 reads a number (readNumber in the source has the details):
+//  - blanks, a sign, digits with grouping symbols after the first digit, one
+//    decimal symbol, an exponent (E or e, a sign, digits), blanks: "-1.234,5"
+//    under a decimal comma;
+//  - a sign after the number instead of before it: "5-", "8.-", "75 +";
+//  - parentheses around a negative number: "(5)" is -5;
+//  - the regional currency symbol before or after the number, "$" where the
+//    settings name none: "$5", "5 €" (then without an exponent);
+//  - a hexadecimal or octal whole number, "&H10" (16) and "&O17" (15), read
+//    as a 32-bit integer: "&H80000000" is -2147483648, a sign before it is
+//    ignored.
+// A single overflows when it rounds to infinity (about 3.4028235E+38) or when
+// it is not zero and below the smallest single (about 1.4E-45).
 Conversion TextToSingle(const QString& text);
 Conversion TextToDouble(const QString& text);
 
@@ -34,5 +42,6 @@ QString NumberToText(double number);
 // The regional symbols in force now.
 QChar RegionalDecimalSymbol();
 QString RegionalGroupSymbol();
+QString RegionalCurrencySymbol();
 
 } // namespace brimo

@@ -1,8 +1,8 @@
 // The conversions between text and numbers, case by case, under the locale of
 // the test process: in the texts below 'D' stands for the regional decimal
-// symbol and 'G' for the grouping symbol. CTest runs them under C.UTF-8 and
-// again under de_DE.UTF-8 (decimal comma). tests/platform/wine compares the
-// same code with oleaut32 on a larger corpus.
+// symbol, 'G' for the grouping symbol and 'C' for the currency symbol. CTest
+// runs them under C.UTF-8 and again under de_DE.UTF-8 (decimal comma).
+// tests/platform/wine compares the same code with oleaut32 on a larger corpus.
 
 #include "platform/RegionalNumbers.h"
 
@@ -18,6 +18,7 @@ QString regional(const char* text) {
     QString out = QString::fromUtf8(text);
     out.replace(QLatin1Char('D'), RegionalDecimalSymbol());
     out.replace(QLatin1Char('G'), RegionalGroupSymbol());
+    out.replace(QLatin1Char('C'), RegionalCurrencySymbol());
     return out;
 }
 
@@ -95,9 +96,11 @@ INSTANTIATE_TEST_SUITE_P(
         TextCase{"abc", TM, TM, 0}, TextCase{"1x", TM, TM, 0}, TextCase{"1e", TM, TM, 0},
         TextCase{"1e+", TM, TM, 0}, TextCase{"De5", TM, TM, 0}, TextCase{"1D2D3", TM, TM, 0},
         TextCase{"1e5e3", TM, TM, 0}, TextCase{"1e5D", TM, TM, 0}, TextCase{"1d5", TM, TM, 0},
-        // Forms of oleaut32 that the program refuses.
-        TextCase{"5-", TM, TM, 0}, TextCase{"5 +", TM, TM, 0}, TextCase{"(5)", TM, TM, 0},
-        TextCase{"$5", TM, TM, 0}, TextCase{"&H10", TM, TM, 0}, TextCase{"1e5G3", TM, TM, 0},
+        // A sign after, parentheses, currency, &H and &O; digits after a complete exponent.
+        TextCase{"8D-", 0, 0, -8}, TextCase{"75 +", 0, 0, 75}, TextCase{"-5-", TM, TM, 0}, TextCase{"(5)", 0, 0, -5},
+        TextCase{"(5", TM, TM, 0}, TextCase{"-C1G234D5", 0, 0, -1234.5}, TextCase{"5 C", 0, 0, 5},
+        TextCase{"C1e5", TM, TM, 0}, TextCase{"&H10", 0, 0, 16}, TextCase{"&O17", 0, 0, 15},
+        TextCase{"&H80000000", 0, 0, -2147483648.0}, TextCase{"&HFFFFFFFF", OV, OV, 0}, TextCase{"1e5G3", TM, TM, 0},
         // Range.
         TextCase{"1e39", 0, OV, 1e39}, TextCase{"-1e39", 0, OV, -1e39}, TextCase{"1E+400", OV, OV, 0},
         TextCase{"-1e309", OV, OV, 0}, TextCase{"3D40282356779733e38", 0, 0, 3.40282356779733e38},

@@ -1,5 +1,7 @@
 #include "support/FormDump.h"
 
+#include "forms/RowTabControl.h"
+
 #include <QAbstractButton>
 #include <QCheckBox>
 #include <QGroupBox>
@@ -12,6 +14,13 @@
 
 namespace brimo::test {
 
+// The current tab and the captions of a tab control of either kind.
+template <class Tabs> QStringList tabsOf(const Tabs* tabs) {
+    QStringList out{QStringLiteral("tab=%1").arg(tabs->currentIndex())};
+    for (int i = 0; i < tabs->count(); ++i) out << QLatin1Char('"') + tabs->tabText(i) + QLatin1Char('"');
+    return out;
+}
+
 static QString stateOf(QWidget* w) {
     QStringList state;
     if (!w->isEnabled()) state << "disabled";
@@ -19,10 +28,8 @@ static QString stateOf(QWidget* w) {
     else if (auto* option = qobject_cast<QRadioButton*>(w); option && option->isChecked()) state << "selected";
     if (auto* button = qobject_cast<QPushButton*>(w); button && button->isDefault()) state << "default";
     if (auto* field = qobject_cast<QLineEdit*>(w); field && (field->alignment() & Qt::AlignHCenter)) state << "centred";
-    if (auto* tabs = qobject_cast<QTabWidget*>(w)) {
-        state << QStringLiteral("tab=%1").arg(tabs->currentIndex());
-        for (int i = 0; i < tabs->count(); ++i) state << QLatin1Char('"') + tabs->tabText(i) + QLatin1Char('"');
-    }
+    if (auto* tabs = qobject_cast<QTabWidget*>(w)) state << tabsOf(tabs);
+    if (auto* tabs = qobject_cast<RowTabControl*>(w)) state << tabsOf(tabs);
     return state.join(QLatin1Char(' '));
 }
 

@@ -2,7 +2,7 @@
 
 namespace brimo {
 
-SSTabControl::SSTabControl(QWidget* parent) : QTabWidget(parent) {}
+SSTabControl::SSTabControl(QWidget* parent) : RowTabControl(3, parent) {}
 
 QWidget* SSTabControl::addCanvasTab(const QString& pageName, const QString& caption) {
     auto* page = new QWidget;
@@ -15,21 +15,17 @@ QWidget* SSTabControl::addCanvasTab(const QString& pageName, const QString& capt
 }
 
 void SSTabControl::resizeEvent(QResizeEvent* event) {
-    QTabWidget::resizeEvent(event);
+    RowTabControl::resizeEvent(event);
     alignCanvases();
 }
 
 void SSTabControl::showEvent(QShowEvent* event) {
-    QTabWidget::showEvent(event);
+    RowTabControl::showEvent(event);
     alignCanvases();
 }
 
-// The pages all lie in one stack; where the stack begins is where the page
-// area begins inside the control.
 void SSTabControl::alignCanvases() {
-    if (count() == 0) return;
-    const QPoint pageArea = widget(0)->parentWidget()->pos();
-    for (QWidget* canvas : canvases_) canvas->setGeometry(QRect(-pageArea, size()));
+    for (QWidget* canvas : canvases_) canvas->setGeometry(QRect(-pageArea().topLeft(), size()));
 }
 
 } // namespace brimo

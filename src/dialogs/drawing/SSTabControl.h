@@ -1,16 +1,17 @@
 #pragma once
-// A tab control whose tabs place their controls from the control's own
-// corner, tab headers included, as the form was drawn. Each tab holds a
-// canvas the size of the whole control, moved up and left by the place
-// where the page area begins, so that twips positions stay as drawn.
-// The tabs stand in one row.
+// The tab control of the drawing variables dialog: six tabs, three a row.
+// Its tabs place their controls from the control's own corner, tab headers
+// included, as the form was drawn. Each tab holds a canvas the size of the
+// whole control, moved up and left by the place where the page area
+// begins, so that twips positions stay as drawn.
 
-#include <QTabWidget>
+#include "forms/RowTabControl.h"
+
 #include <vector>
 
 namespace brimo {
 
-class SSTabControl : public QTabWidget {
+class SSTabControl : public RowTabControl {
     Q_OBJECT
 public:
     explicit SSTabControl(QWidget* parent);
