@@ -15,7 +15,7 @@ is found again when lines move; a point whose line is gone is reported.
     scripts/mutants.py                 # every point of the list
     scripts/mutants.py --sample 20     # the first 20 points (a quick look)
     scripts/mutants.py --draw 150      # draw a new list of 150 points
-    scripts/mutants.py --baseline REV  # each point also against the suite of REV
+    scripts/mutants.py --baseline REV  # each point also against the tree of REV
 """
 import argparse
 import collections
@@ -158,21 +158,17 @@ def suite_fails(build, limit):
     return False
 
 
-def prepare(scratch, tests_from=None):
-    """A built copy of the working tree; with `tests_from`, its tests/ are those of that revision."""
+def prepare(scratch, revision=None):
+    """A built copy of the working tree, or of a revision of the repository."""
     tree, build = scratch / "tree", scratch / "build"
     if tree.exists():
         shutil.rmtree(tree)
-    shutil.copytree(ROOT, tree, ignore=shutil.ignore_patterns(".git", "build*", "demo", "*.png"), symlinks=True)
-    for png in ROOT.rglob("*.png"):
-        if "build" not in png.parts and ".git" not in png.parts:
-            target = tree / png.relative_to(ROOT)
-            target.parent.mkdir(parents=True, exist_ok=True)
-            shutil.copy2(png, target)
-    if tests_from:
-        shutil.rmtree(tree / "tests")
-        archive = subprocess.run(["git", "archive", tests_from, "tests"], cwd=ROOT, check=True, capture_output=True)
+    if revision:
+        tree.mkdir(parents=True)
+        archive = subprocess.run(["git", "archive", revision], cwd=ROOT, check=True, capture_output=True)
         subprocess.run(["tar", "-x", "-C", tree], input=archive.stdout, check=True)
+    else:
+        shutil.copytree(ROOT, tree, ignore=shutil.ignore_patterns(".git", "build*", "demo"), symlinks=True)
     linker = ["-DCMAKE_EXE_LINKER_FLAGS=-fuse-ld=lld"] if shutil.which("ld.lld") else []
     subprocess.run(["cmake", "-S", tree, "-B", build, "-DCMAKE_BUILD_TYPE=Release", "-DCMAKE_CXX_FLAGS_RELEASE=-O1",
                     "-DBRIMO_BUILD_BENCHMARKS=OFF", *linker], check=True, stdout=subprocess.DEVNULL)
@@ -188,7 +184,8 @@ def main():
     parser.add_argument("--sample", type=int, metavar="N", help="run only the first N points of the list")
     parser.add_argument("--scratch", default="/tmp/brimo-mutants", help="where the copy is built")
     parser.add_argument("--limit", type=int, default=300, help="seconds for one build or one test stage")
-    parser.add_argument("--baseline", metavar="REV", help="run each point against the tests of REV as well")
+    parser.add_argument("--baseline", metavar="REV",
+                        help="run each point in the tree of REV as well (a point whose line is not there is gone)")
     args = parser.parse_args()
 
     if args.draw:
