@@ -10,6 +10,15 @@
 
 namespace brimo {
 
+namespace {
+
+// The commit's journal lies beside Brimo.ini.
+QString journalBeside(const QString& nativeIni) {
+    return QFileInfo(nativeIni).absolutePath() + QStringLiteral("/Brimo.commit-journal");
+}
+
+} // namespace
+
 CommitOutcome CommitVariables(const QString& lispPath, const QString& iniPath, const QString& section,
                               const QList<CommittedRow>& rows) {
     QStringList lines;
@@ -32,9 +41,15 @@ CommitOutcome CommitVariables(const QString& lispPath, const QString& iniPath, c
     ini.setStrings(toCp1252(section), keys);
 
     QString failed, reason;
-    if (!WriteFilesTogether({{nativeLisp, ComposeLispFile(lines)}, {nativeIni, ini.bytes()}}, &failed, &reason))
+    if (!WriteFilesTogether({{nativeLisp, ComposeLispFile(lines)}, {nativeIni, ini.bytes()}}, journalBeside(nativeIni), &failed, &reason))
         return {false, failed == nativeLisp ? lispPath : iniPath, reason};
     return {};
+}
+
+Recovery RecoverInterruptedCommit(const InstallInfo& info) {
+    const QString nativeIni = ToNativePath(BrimoIniPath(info));
+    if (nativeIni.isEmpty()) return Recovery::Nothing; // a path that names no folder here
+    return RecoverFilesTogether(journalBeside(nativeIni));
 }
 
 } // namespace brimo
