@@ -9,6 +9,7 @@
 #include "forms/DesignFont.h"
 #include "forms/MessageBoxLegendQuestion.h"
 #include "model/UserLegends.h"
+#include "model/VariableCommit.h"
 
 #include <QApplication>
 
@@ -119,6 +120,8 @@ int Main(int argc, char* argv[]) {
 
     MainModule module;
     LoadInstallInfo(module.installInfo);
+    // A commit cut off by a kill is finished or undone before Brimo.ini is read.
+    RecoverInterruptedCommit(module.installInfo);
     LoadGeneralVariables(module.installInfo, module.generalVariables);
     module.LoadLegends();
 

@@ -8,6 +8,15 @@
 
 namespace brimo {
 
+namespace {
+
+// The commit's journal lies beside Brimo.ini.
+QString journalBeside(const QString& nativeIni) {
+    return QFileInfo(nativeIni).absolutePath() + QStringLiteral("/Brimo.commit-journal");
+}
+
+} // namespace
+
 CommitPlan::CommitPlan(const QString& iniPath) : iniPath_(iniPath), nativeIni_(ToNativePath(iniPath)) {
     if (!QFileInfo::exists(nativeIni_)) return;
     QString error;
@@ -48,7 +57,7 @@ CommitOutcome CommitPlan::write() const {
     QList<FileToWrite> planned;
     for (const File& file : files()) planned.append(file.planned);
     QString failed, reason;
-    if (!WriteFilesTogether(planned, &failed, &reason)) {
+    if (!WriteFilesTogether(planned, journalBeside(nativeIni_), &failed, &reason)) {
         for (const File& file : files())
             if (file.planned.nativePath == failed) return {false, file.windowsPath, reason};
         return {false, failed, reason};
@@ -61,6 +70,12 @@ CommitOutcome CommitVariables(const QString& lispPath, const QString& iniPath, c
     CommitPlan plan(iniPath);
     plan.add(lispPath, section, rows);
     return plan.write();
+}
+
+Recovery RecoverInterruptedCommit(const InstallInfo& info) {
+    const QString nativeIni = ToNativePath(BrimoIniPath(info));
+    if (nativeIni.isEmpty()) return Recovery::Nothing; // a path that names no folder here
+    return RecoverFilesTogether(journalBeside(nativeIni));
 }
 
 } // namespace brimo

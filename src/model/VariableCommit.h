@@ -4,7 +4,12 @@
 //
 // A commit writes each value twice and in lockstep: a line of the Lisp file
 // and a key of one section of Brimo.ini. Both files are written whole, the
-// Lisp file first, all or nothing: a failure leaves both as they were.
+// Lisp file first, all or nothing: a failure leaves both as they were, and a
+// kill or a power loss at any moment leaves both old or both new once the
+// next start has run RecoverInterruptedCommit.
+
+#include "model/InstallInfo.h"
+#include "platform/FileAccess.h"
 
 #include "platform/FileAccess.h"
 #include "platform/ProfileDocument.h"
@@ -55,5 +60,10 @@ private:
 
 CommitOutcome CommitVariables(const QString& lispPath, const QString& iniPath, const QString& section,
                               const QList<CommittedRow>& rows);
+
+// Finishes or undoes a commit that a kill or a power loss cut off in the
+// folder of Brimo.ini: every program that reads or writes these files calls it
+// at its start, before it reads any of them. Reports what it did on stderr.
+Recovery RecoverInterruptedCommit(const InstallInfo& info);
 
 } // namespace brimo

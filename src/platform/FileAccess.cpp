@@ -1,12 +1,19 @@
 #include "platform/FileAccess.h"
 
+#include "platform/CommitJournal.h"
+
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QSaveFile>
 
-#include <memory>
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
 #include <vector>
+
+#include <fcntl.h>
+#include <unistd.h>
 
 namespace brimo {
 
@@ -56,39 +63,102 @@ bool folderAndFileWritable(const QString& nativePath, QString* error) {
 
 } // namespace
 
-bool WriteFilesTogether(const QList<FileToWrite>& files, QString* failedPath, QString* error) {
-    std::vector<std::unique_ptr<QSaveFile>> staged;
-    std::vector<std::optional<QByteArray>> previous;
-    for (const FileToWrite& file : files) {
-        if (failedPath) *failedPath = file.nativePath;
-        if (!folderAndFileWritable(file.nativePath, error)) return false;
-        auto save = std::make_unique<QSaveFile>(file.nativePath);
-        if (!save->open(QIODevice::WriteOnly) || save->write(file.bytes) != file.bytes.size()) {
-            if (error) *error = save->errorString();
-            return false;
-        }
-        // Only the files moved before another can need their old content back.
-        const bool last = &file == &files.back();
-        previous.push_back(!last && QFileInfo::exists(file.nativePath) ? ReadWholeFile(file.nativePath) : std::nullopt);
-        staged.push_back(std::move(save));
-    }
-    for (std::size_t i = 0; i < staged.size(); ++i) {
-        if (staged[i]->commit()) continue;
-        if (failedPath) *failedPath = files[static_cast<qsizetype>(i)].nativePath;
-        if (error) *error = staged[i]->errorString();
-        // Put back what the earlier moves replaced.
-        for (std::size_t j = 0; j < i; ++j) {
-            const QString& path = files[static_cast<qsizetype>(j)].nativePath;
-            if (previous[j]) WriteWholeFile(path, *previous[j]);
-            else QFile::remove(path);
-        }
+namespace {
+
+// The file created or emptied, written, and flushed to the disk.
+bool writeDurably(const QString& path, const QByteArray& bytes, QString* error) {
+    QFile file(path);
+    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate) || file.write(bytes) != bytes.size() ||
+        !file.flush() || ::fsync(file.handle()) != 0) {
+        if (error) *error = file.error() != QFileDevice::NoError ? file.errorString() : QString::fromLocal8Bit(std::strerror(errno));
+        file.close();
+        QFile::remove(path);
         return false;
     }
     return true;
 }
 
+QString folderOf(const QString& path) { return QDir::cleanPath(QFileInfo(path).absolutePath()); }
+
+} // namespace
+
+bool SyncFolder(const QString& nativeFolder) {
+    const int fd = ::open(QFile::encodeName(nativeFolder).constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (fd < 0) return false;
+    const bool ok = ::fsync(fd) == 0;
+    ::close(fd);
+    return ok;
+}
+
+bool WriteFilesTogether(const QList<FileToWrite>& files, const QString& journalPath, QString* failedPath,
+                        QString* error) {
+    const QString folder = folderOf(journalPath);
+    QList<JournalEntry> entries;
+    QStringList staged;
+    std::vector<std::optional<QByteArray>> previous;
+    const auto dropStaged = [&] {
+        for (const QString& path : staged) QFile::remove(path);
+    };
+    for (const FileToWrite& file : files) {
+        if (failedPath) *failedPath = file.nativePath;
+        if (!folderAndFileWritable(file.nativePath, error)) return dropStaged(), false;
+        if (folderOf(file.nativePath) != folder) {
+            if (error) *error = QStringLiteral("the files of one commit must share a folder");
+            return dropStaged(), false;
+        }
+        const QFileInfo target(file.nativePath);
+        const QString stagedPath = file.nativePath + QLatin1String(kStagedSuffix);
+        QFile::remove(stagedPath); // what a killed commit left, read-only or not
+        if (!writeDurably(stagedPath, file.bytes, error)) return dropStaged(), false;
+        staged.append(stagedPath);
+        if (target.exists()) QFile::setPermissions(stagedPath, target.permissions());
+        entries.append({QFile::encodeName(target.fileName() + QLatin1String(kStagedSuffix)),
+                        QFile::encodeName(target.fileName())});
+        // Only the files moved before another can need their old content back.
+        const bool last = &file == &files.back();
+        previous.push_back(!last && target.exists() ? ReadWholeFile(file.nativePath) : std::nullopt);
+    }
+
+    // From the moment the journal is on the disk, a start after a kill
+    // finishes the moves; before it, the start drops the staged copies.
+    if (failedPath) *failedPath = journalPath;
+    if (!writeDurably(journalPath, ComposeCommitJournal(entries), error) || !SyncFolder(folder)) {
+        QFile::remove(journalPath);
+        return dropStaged(), false;
+    }
+    for (qsizetype i = 0; i < files.size(); ++i) {
+        if (::rename(QFile::encodeName(staged[i]).constData(), QFile::encodeName(files[i].nativePath).constData()) == 0)
+            continue;
+        if (failedPath) *failedPath = files[i].nativePath;
+        if (error) *error = QString::fromLocal8Bit(std::strerror(errno));
+        // Put back what the earlier moves replaced, then give up the commit.
+        // A kill while the old content goes back has the start finish the
+        // moves; only between the last restore and the journal's removal
+        // would a kill still leave the files apart.
+        for (qsizetype j = 0; j < i; ++j) {
+            if (previous[static_cast<std::size_t>(j)]) WriteWholeFile(files[j].nativePath, *previous[static_cast<std::size_t>(j)]);
+            else QFile::remove(files[j].nativePath);
+        }
+        QFile::remove(journalPath);
+        dropStaged();
+        SyncFolder(folder);
+        return false;
+    }
+    SyncFolder(folder);
+    QFile::remove(journalPath);
+    SyncFolder(folder);
+    return true;
+}
+
 bool WriteWholeFile(const QString& nativePath, const QByteArray& bytes, QString* error) {
-    return WriteFilesTogether({{nativePath, bytes}}, nullptr, error);
+    if (!folderAndFileWritable(nativePath, error)) return false;
+    QSaveFile save(nativePath);
+    if (!save.open(QIODevice::WriteOnly) || save.write(bytes) != bytes.size() || !save.commit()) {
+        if (error) *error = save.errorString();
+        return false;
+    }
+    SyncFolder(folderOf(nativePath));
+    return true;
 }
 
 } // namespace brimo

@@ -11,9 +11,14 @@ namespace brimo {
 std::optional<QByteArray> ReadWholeFile(const QString& nativePath, QString* error = nullptr);
 
 // Writes the file through a temporary file in the same folder that is then
-// moved over the old one, so that a failure leaves the old file as it was.
+// moved over the old one, so that a failure leaves the old file as it was;
+// the folder is flushed after the move.
 // The folder is not created. On failure returns false and says why in `error`.
 bool WriteWholeFile(const QString& nativePath, const QByteArray& bytes, QString* error = nullptr);
+
+// Flushes the entries of a folder (the names created, moved or removed in it)
+// to the disk, so that a move survives a power loss.
+bool SyncFolder(const QString& nativeFolder);
 
 } // namespace brimo
 
@@ -24,11 +29,27 @@ struct FileToWrite {
     QByteArray bytes;
 };
 
-// Writes several files all or nothing, in the order given: each goes to a
-// temporary file first, and only when every temporary file is written are
-// they moved over the old ones. Should a later move fail, the files already
-// moved get their old content back. On failure `failedPath` names the file
-// and `error` says why.
-bool WriteFilesTogether(const QList<FileToWrite>& files, QString* failedPath, QString* error);
+// Writes several files of one folder all or nothing, even across a kill or
+// a power loss. Each file goes to its staged copy (its name and
+// kStagedSuffix), flushed to the disk; then the journal at `journalPath`
+// (same folder) names them all and is flushed; then the staged copies are
+// moved over the files in the order given, the folder is flushed, and the
+// journal removed. Should a move fail, the files already moved get their old
+// content back. On failure `failedPath` names the file and `error` says why.
+bool WriteFilesTogether(const QList<FileToWrite>& files, const QString& journalPath, QString* failedPath,
+                        QString* error);
+
+enum class Recovery {
+    Nothing,       // no journal and no staged file
+    RolledForward, // a complete journal: its moves were finished
+    RolledBack,    // a journal cut short, or staged files alone: removed
+    Ignored,       // a damaged journal: reported, removed, not followed
+    Failed,        // a move of a complete journal failed: all left for the next start
+};
+
+// What the start of a program does before it reads any file of the folder of
+// `journalPath`: finishes or drops a WriteFilesTogether that was interrupted,
+// and removes every staged copy left in that folder. Reports on stderr.
+Recovery RecoverFilesTogether(const QString& journalPath);
 
 } // namespace brimo

@@ -2,6 +2,7 @@
 
 #include "model/GeneralLoad.h"
 #include "model/SlopeOpening.h"
+#include "model/VariableCommit.h"
 #include "platform/ProfileFile.h"
 
 namespace brimo {
@@ -21,6 +22,8 @@ QString slopeOpeningValue(const SettingKey& key) {
 UserFiles::UserFiles(const std::optional<QString>& user) {
     LoadInstallInfo(info_);
     if (user) info_.actuel = *user == QLatin1String("Default") ? QString() : *user;
+    // A commit cut short by a kill is finished or undone before anything is read.
+    RecoverInterruptedCommit(info_);
     ini_ = LoadProfile(BrimoIniPath(info_));
     LoadGeneralVariables(info_, variables_);
 }

@@ -1,6 +1,8 @@
 #include "model/VariableCommit.h"
 #include "support/ScratchPrefix.h"
 
+#include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <gtest/gtest.h>
 
@@ -22,11 +24,16 @@ TEST(VariableCommit, WritesBothFilesAndKeepsTheRestOfTheProfile) {
     const QByteArray before = "; comment\r\n[Brimo_Talus]\r\nx=1\r\n\r\n[Brimo_Gene]\r\nB = old\r\nx_chtxt=7\r\n";
     prefix.write(kIni, before);
     prefix.write(kLisp, "old lisp content that must go\r\n");
+    // A read-only staged copy that a killed commit left does not stop this one.
+    prefix.write(kIni + ".brimo-new", "left by a kill");
+    QFile::setPermissions(prefix.native(kIni + ".brimo-new"), QFileDevice::ReadOwner);
     const CommitOutcome outcome = CommitVariables(kLisp, kIni, QStringLiteral("Brimo_Gene"), kRows);
     ASSERT_TRUE(outcome.ok) << outcome.reason.toStdString();
     EXPECT_EQ(prefix.read(kLisp), QByteArray("(setq a 1) ;A\r\n(setq b \"\xe9\") ;B\r\n"));
     EXPECT_EQ(prefix.read(kIni),
               QByteArray("; comment\r\n[Brimo_Talus]\r\nx=1\r\n\r\n[Brimo_Gene]\r\nB = \xe9\r\nx_chtxt=7\r\na=1\r\n"));
+    EXPECT_EQ(QDir(prefix.native(QStringLiteral("C:\\Var\\U"))).entryList(QDir::Files | QDir::Hidden),
+              QStringList({"Brimo.ini", "Brimo_Gene.lsp"})); // no journal, no staged copy
 }
 
 TEST(VariableCommit, CreatesTheProfileWhenTheFolderExists) {

@@ -1,0 +1,47 @@
+// The regional number conversions, under the locale of the run (scripts/fuzz.sh
+// runs this target under a point and under a comma locale): a text is a
+// number, a refusal or an overflow; a number read is finite and fits its
+// type; a number written in the regional form reads back to 15 digits.
+
+#include "Check.h"
+#include "platform/RegionalNumbers.h"
+
+#include <cmath>
+#include <cstring>
+
+namespace {
+
+void checkRoundTrip(double number) {
+    const QString text = brimo::NumberToText(number);
+    FUZZ_CHECK(!text.isEmpty());
+    const double magnitude = std::fabs(number);
+    // Beyond this range the text keeps a point whatever the locale.
+    if (number != 0 && (magnitude < 1e-4 || magnitude >= 1e15)) return;
+    const brimo::Conversion back = brimo::TextToDouble(text);
+    FUZZ_CHECK(back.ok());
+    FUZZ_CHECK(std::fabs(back.value - number) <= magnitude * 1e-14);
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
+    const QString text = QString::fromUtf8(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size));
+    const brimo::Conversion asDouble = brimo::TextToDouble(text);
+    FUZZ_CHECK(asDouble.error == 0 || asDouble.error == brimo::TypeMismatch || asDouble.error == brimo::Overflow);
+    if (asDouble.ok()) {
+        FUZZ_CHECK(std::isfinite(asDouble.value));
+        checkRoundTrip(asDouble.value);
+    }
+    const brimo::Conversion asSingle = brimo::TextToSingle(text);
+    FUZZ_CHECK(asSingle.error == 0 || asSingle.error == brimo::TypeMismatch || asSingle.error == brimo::Overflow);
+    if (asSingle.ok()) FUZZ_CHECK(std::isfinite(static_cast<float>(asSingle.value)));
+    // A refusal does not depend on the type: a text is a number for both or neither.
+    FUZZ_CHECK((asDouble.error == brimo::TypeMismatch) == (asSingle.error == brimo::TypeMismatch));
+
+    if (size >= sizeof(double)) {
+        double number;
+        std::memcpy(&number, data, sizeof number);
+        if (std::isfinite(number)) checkRoundTrip(number);
+    }
+    return 0;
+}
