@@ -64,5 +64,15 @@ TEST(SettingsApplyTest, ExportedValuesApplyToEveryPrefixAndOnlyOnce) {
     }
 }
 
+// A commit cut short by a kill is dropped before the tool reads the user's files.
+TEST(SettingsApplyTest, ACommitCutShortIsUndoneBeforeAnyRead) {
+    User user;
+    user.prefix.write(kDir + "Brimo.ini.brimo-new", "[Brimo_Gene]\r\nx_incli=9\r\n");
+    const SettingsRun result = RunSettings({"get", "x_incli", "--prefix", user.prefix.root()});
+    EXPECT_EQ(result.status, 0) << result.errors.toStdString();
+    EXPECT_TRUE(result.output.contains("x_incli=0")) << result.output.toStdString();
+    EXPECT_FALSE(user.prefix.exists(kDir + "Brimo.ini.brimo-new"));
+}
+
 } // namespace
 } // namespace brimo::test
