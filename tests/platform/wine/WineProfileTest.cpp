@@ -132,56 +132,20 @@ struct WriteCase {
     QList<Put> puts;
 };
 
+// The files of profiles/ (spacing, quotes, duplicate names, comments, keys
+// before any section, CR, LF and mixed line ends, long names and values,
+// Windows-1252 letters, control bytes and NULs, empty and blank files,
+// random bytes), and one file that does not exist.
 QList<std::pair<QByteArray, std::optional<QByteArray>>> readCorpus() {
-    const QByteArray v300 = QByteArray("0123456789").repeated(30);
-    const QByteArray v10000 = QByteArray("abcdefghij").repeated(1000);
-    QByteArray garbage;
-    quint32 seed = 12345;
-    for (int i = 0; i < 3000; ++i) {
-        seed = seed * 1103515245u + 12345u;
-        const char pick[] = "[]= \r\n\t;\"'aA\xE9\xC9";
-        const unsigned r = (seed >> 16) & 0xFF;
-        garbage += r < 96 ? pick[r % (sizeof pick - 1)] : static_cast<char>(r);
+    QList<std::pair<QByteArray, std::optional<QByteArray>>> corpus{{"missing.ini", std::nullopt}};
+    const QDir folder(QStringLiteral(BRIMO_WINE_PROFILES));
+    for (const QFileInfo& file : folder.entryInfoList(QDir::Files, QDir::Name)) {
+        QFile f(file.filePath());
+        EXPECT_TRUE(f.open(QIODevice::ReadOnly)) << file.filePath().toStdString();
+        corpus.append({file.fileName().toLatin1(), f.readAll()});
     }
-    return {
-        {"spacing.ini",
-         b("[Sec]\r\n  key1=v1\r\nkey2 =v2\r\nkey3= v3\r\n  key4  =  v4  \r\n\tkey5\t=\tv5\t\r\n key 6 = v 6 \r\n"
-           "key7=\r\nkey8 =   \r\n=v9\r\nkey10\r\nkey11 = a = b\r\n\x0bkey12\x0c=\x1a v12\x1a\r\n"
-           "[ Sec2 ]\r\nk=a\r\n  [Sec3]  \r\nk=b\r\n[Sec4] trailing\r\nk=c\r\n[Sec5\r\nk5=d\r\n[Sec6]]\r\nk=e\r\n"
-           "[]\r\nk=f\r\n[Sec 7]\r\nk=g\r\n[Sec8]x]\r\nk=h\r\n"sv)},
-        {"quotes.ini",
-         b("[Q]\r\ndq=\"double\"\r\nsq='single'\r\nleft=\"left\r\nright=right\"\r\nempty=\"\"\r\nempty1=''\r\n"
-           "inner=\"a\"b\"\r\nspaced=\" in side \"\r\nmixed=\"mixed'\r\none=\"\r\nonesq='\r\nblanks=  \"x\"  \r\n"
-           "three=\"\"\"\r\ntwo=\"a\" \"b\"\r\nmid=x\"y\"\r\nnested='\"n\"'\r\nquoteblank=\" \"\r\n"sv)},
-        {"duplicates.ini",
-         b("[A]\r\nk=1\r\nk=2\r\nK=3\r\n[a]\r\nk=4\r\nonlysecond=5\r\n[B]\r\nk=b\r\n[ A ]\r\nk=6\r\n[A]\r\nother=7\r\n"sv)},
-        {"comments.ini",
-         b(";top comment\r\n[S]\r\n;k=hidden\r\nk=1\r\n; k2=2\r\n#k3=3\r\nk4=4 ; not a comment\r\n\r\n\r\n"
-           "k5=5\r\n;[T]\r\nk6=6\r\n"sv)},
-        {"before.ini", b("k=0\r\nbefore=1\r\n\r\n[S]\r\nk=1\r\n"sv)},
-        {"cr.ini", b("[S]\rk=1\rk2=2\r\r[T]\rk=3\r"sv)},
-        {"lf.ini", b("[S]\nk=1\nk2=2\n\n[T]\nk=3\n"sv)},
-        {"mixed.ini", b("[S]\r\nk=1\n\rk2=2\r\r\n[T]\n\nk=3"sv)},
-        {"long.ini",
-         "[L]\r\nv300=" + v300 + "\r\nv254=" + v300.first(254) + "\r\nv255=" + v300.first(255) + "\r\nv253=" +
-             v300.first(253) + "\r\nv10000=" + v10000 + "\r\nq300=\"" + v300 + "\"\r\nq254=\"" + v300.first(254) +
-             "\"\r\nq253=\"" + v300.first(253) + "\"\r\nq252=\"" + v300.first(252) + "\"\r\nq255=\"" +
-             v300.first(255) + "\"\r\n" + v300 + "=long name\r\n" + v10000 + "\r\nafter=1\r\n[" + v300 +
-             "]\r\nk=long section\r\n"},
-        {"high.ini",
-         b("[\xC9t\xE9]\r\n\xE9=\xC9\r\n\x8A" "ab=\x9A" "ab\r\n\x8C" "uvre=\x9C\r\n\x8E=\x9E\r\n\x9F=\xFF\r\nstra\xDF" "e=\xDF\r\n"
-           "\xB5=micro\r\nnb=\xA0v\xA0\r\n\xA0nbkey=1\r\nnbkey2\xA0=2\r\nsub=\x1A" "v\x1A\r\nundef=\x81\x8D\x8F\x90\x9D\r\n"
-           "dots=\x85\r\n[\xA0S]\r\nk=nb section\r\n[\x8A]\r\nk=S caron\r\n"sv)},
-        {"controls.ini",
-         b("[C]\r\nvt=\x0bv\x0b\r\nff=\x0c" "f\x0c\r\nfs=\x1c" "a\x1c\r\nus=\x1f" "b\x1f\r\nnul=ab\x00" "cd\r\nna\x00me=2\r\n"
-           "\x00lead=3\r\nq=\"a\x00\"\r\nsp \x00=4\r\nv2= \x00 5\r\n[T\x00U]\r\nk=after nul\r\n[W \x00]\r\nk=w\r\n"
-           "[\x00X]\r\nk=x\r\n[V]\r\nk=v\x1a\x1a\x1a"sv)},
-        {"empty.ini", QByteArray()},
-        {"blank.ini", b("\r\n \r\n\t\r\n"sv)},
-        {"missing.ini", std::nullopt},
-        {"garbage.ini", garbage},
-        {"nuls.ini", b("\x00\x00\x00[S]\x00\r\n\x00k=1\r\n[S2]\r\n\x00\x00=\x00\r\nk=\x00x\r\n"sv)},
-    };
+    EXPECT_GE(corpus.size(), 16);
+    return corpus;
 }
 
 QList<WriteCase> writeCorpus() {
