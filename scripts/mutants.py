@@ -15,10 +15,19 @@ is found again when lines move; a point whose line is gone is reported.
     scripts/mutants.py                 # every point of the list
     scripts/mutants.py --sample 20     # the first 20 points (a quick look)
     scripts/mutants.py --draw 150      # draw a new list of 150 points
-    scripts/mutants.py --baseline REV  # each point also against the tree of REV
+    scripts/mutants.py --revision REV  # the suite and code of an earlier revision
+
+Only the tests that run a point's line are run for it: a first build with
+coverage records which test runs which line. A point on a line that no test
+runs survives without a test run; a point on a line that runs no code (a
+table's row, a declaration) runs the tests that run its file, or all of them.
+Tests labelled random (fuzzing, kills at random moments) or packaging are left
+out, so that a verdict is the same from run to run.
 """
 import argparse
 import collections
+import json
+import os
 import pathlib
 import random
 import re
@@ -121,8 +130,9 @@ def read_points():
     return points
 
 
+
 def mutate(text, occurrence, nth, line, name):
-    """The file's text with the point's line mutated, or None when the line is gone."""
+    """The file's text with the point's line mutated and its line number, or None when the line is gone."""
     lines = text.split("\n")
     hits = [i for i, l in enumerate(lines) if l == line]
     if occurrence >= len(hits):
@@ -137,55 +147,140 @@ def mutate(text, occurrence, nth, line, name):
     mutated = code[: match.start()] + (match.expand(replacement) if isinstance(replacement, str)
                                        else replacement(match)) + code[match.end():]
     lines[index] = mutated + sep + comment
-    return "\n".join(lines)
+    return "\n".join(lines), index + 1
 
 
-def run(command, cwd, limit):
+def locate(tree, rel, occurrence, nth, line, name):
+    """The file that holds the point's line: its own, or one of the same name that a move took it to."""
+    named = pathlib.PurePosixPath(rel).name
+    for path in [tree / rel] + [p for p in source_files(tree) if p.name == named and p != tree / rel]:
+        if path.exists():
+            text = path.read_text(encoding="utf-8")
+            result = mutate(text, occurrence, nth, line, name)
+            if result:
+                return path, text, *result
+    return None
+
+
+def run(command, cwd, limit, env=None):
     try:
         return subprocess.run(command, cwd=cwd, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
-                              timeout=limit).returncode
+                              timeout=limit, env=env).returncode
     except subprocess.TimeoutExpired:
         return -1
 
 
-def suite_fails(build, limit):
-    """Runs the fast tests first, then the Wine comparison and the runs of the real binary."""
-    stages = [["-LE", "e2e|wine"], ["-L", "wine"], ["-L", "e2e"]]
-    for stage in stages:
-        code = run(["ctest", "-j2", "--stop-on-failure", "--timeout", "120", *stage], build, limit)
-        if code != 0:
-            return True
-    return False
+LEFT_OUT = {"random", "packaging"}
+STAGES = [lambda labels: not labels & {"e2e", "wine"}, lambda labels: "wine" in labels,
+          lambda labels: "e2e" in labels]
 
 
-def prepare(scratch, revision=None):
-    """A built copy of the working tree, or of a revision of the repository."""
-    tree, build = scratch / "tree", scratch / "build"
-    if tree.exists():
-        shutil.rmtree(tree)
-    if revision:
-        tree.mkdir(parents=True)
-        archive = subprocess.run(["git", "archive", revision], cwd=ROOT, check=True, capture_output=True)
-        subprocess.run(["tar", "-x", "-C", tree], input=archive.stdout, check=True)
-    else:
-        shutil.copytree(ROOT, tree, ignore=shutil.ignore_patterns(".git", "build*", "demo"), symlinks=True)
-    linker = ["-DCMAKE_EXE_LINKER_FLAGS=-fuse-ld=lld"] if shutil.which("ld.lld") else []
-    subprocess.run(["cmake", "-S", tree, "-B", build, "-DCMAKE_BUILD_TYPE=Release", "-DCMAKE_CXX_FLAGS_RELEASE=-O1",
-                    "-DBRIMO_BUILD_BENCHMARKS=OFF", *linker], check=True, stdout=subprocess.DEVNULL)
-    subprocess.run(["cmake", "--build", build, "-j2"], check=True, stdout=subprocess.DEVNULL)
-    if suite_fails(build, 900):
-        sys.exit("the suite fails without any fault: mend it first")
-    return tree, build
+class Suite:
+    """A built copy of a tree, its tests, and which test runs which line."""
+
+    def __init__(self, scratch, revision):
+        self.tree, self.build = scratch / "tree", scratch / "build"
+        if self.tree.exists():
+            shutil.rmtree(self.tree)
+        if revision:
+            self.tree.mkdir(parents=True)
+            archive = subprocess.run(["git", "archive", revision], cwd=ROOT, check=True, capture_output=True)
+            subprocess.run(["tar", "-x", "-C", self.tree], input=archive.stdout, check=True)
+        else:
+            shutil.copytree(ROOT, self.tree, ignore=shutil.ignore_patterns(".git", "build*", "demo"), symlinks=True)
+        self.configure(self.build, "-O1")
+        self.tests = self.list_tests(self.build)
+        if self.fails(self.build, set(self.tests), 900):
+            sys.exit("the suite fails without any fault: mend it first")
+        self.coverage = self.record_coverage(scratch / "coverage")
+
+    def configure(self, build, flags, link=""):
+        link += " -fuse-ld=lld" if shutil.which("ld.lld") else ""
+        subprocess.run(["cmake", "-S", self.tree, "-B", build, "-DCMAKE_BUILD_TYPE=Mutants",
+                        f"-DCMAKE_CXX_FLAGS_MUTANTS={flags}", f"-DCMAKE_EXE_LINKER_FLAGS={link}",
+                        "-DBRIMO_BUILD_BENCHMARKS=OFF"],
+                       check=True, stdout=subprocess.DEVNULL)
+        subprocess.run(["cmake", "--build", build, "-j2"], check=True, stdout=subprocess.DEVNULL)
+
+    @staticmethod
+    def list_tests(build):
+        """Name: (number, labels) of every test that gives the same verdict on every run."""
+        listing = json.loads(subprocess.run(["ctest", "--show-only=json-v1"], cwd=build, check=True,
+                                            capture_output=True, text=True).stdout)
+        tests = {}
+        for number, test in enumerate(listing["tests"], 1):
+            labels = next((set(p["value"]) for p in test.get("properties", []) if p["name"] == "LABELS"), set())
+            if not labels & LEFT_OUT:
+                tests[test["name"]] = (number, labels)
+        return tests
+
+    def record_coverage(self, build):
+        """(file, line) -> names of the tests that run it; a file -> names of the tests that run any of it."""
+        self.configure(build, "-O0 --coverage", "--coverage")
+        by_line, by_file = collections.defaultdict(set), collections.defaultdict(set)
+        self.code_lines = collections.defaultdict(set)
+        for name, (number, _) in self.list_tests(build).items():
+            for data in build.rglob("*.gcda"):
+                data.unlink()
+            run(["ctest", "-I", f"0,0,0,{number}"], build, 900)
+            data = [str(p) for p in build.rglob("*.gcda")]
+            if not data:
+                continue
+            report = subprocess.run(["gcov", "--json-format", "--stdout", *data], cwd=build,
+                                    capture_output=True, text=True).stdout
+            for document in report.splitlines():
+                for source in json.loads(document)["files"]:
+                    rel = os.path.relpath(pathlib.Path(build, source["file"]).resolve(), self.tree.resolve())
+                    if not rel.startswith("src/"):
+                        continue
+                    for row in source["lines"]:
+                        self.code_lines[rel].add(row["line_number"])
+                        if row["count"]:
+                            by_line[rel, row["line_number"]].add(name)
+                            by_file[rel].add(name)
+        return by_line, by_file
+
+    def tests_for(self, rel, number):
+        """The tests that can see a fault on this line: None when the line is code that no test runs."""
+        by_line, by_file = self.coverage
+        if number in self.code_lines[rel]:
+            return by_line.get((rel, number)) or None
+        return by_file.get(rel) or set(self.tests)
+
+    def fails(self, build, names, limit):
+        """Runs the chosen fast tests first, then the Wine comparison and the runs of the real binary."""
+        for stage in STAGES:
+            numbers = [str(number) for name, (number, labels) in self.tests.items() if name in names and stage(labels)]
+            if numbers and run(["ctest", "-j2", "--stop-on-failure", "--timeout", "120",
+                                "-I", "0,0,0," + ",".join(numbers)], build, limit) != 0:
+                return True
+        return False
+
+    def try_point(self, rel, name, occurrence, nth, line, limit):
+        """Makes the fault, builds, runs the tests that run its line, puts the file back: the verdict."""
+        found = locate(self.tree, rel, occurrence, nth, line, name)
+        if found is None:
+            return "gone"
+        path, original, mutated, number = found
+        path.write_text(mutated, encoding="utf-8")
+        try:
+            if run(["cmake", "--build", self.build, "-j2"], self.tree, limit) != 0:
+                return "does not build"
+            names = self.tests_for(path.relative_to(self.tree).as_posix(), number)
+            if names is None:
+                return "SURVIVED"
+            return "caught" if self.fails(self.build, names, limit) else "SURVIVED"
+        finally:
+            path.write_text(original, encoding="utf-8")
 
 
 def main():
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("--draw", type=int, metavar="N", help="draw a new list of N points and stop")
     parser.add_argument("--sample", type=int, metavar="N", help="run only the first N points of the list")
-    parser.add_argument("--scratch", default="/tmp/brimo-mutants", help="where the copy is built")
+    parser.add_argument("--scratch", default="/tmp/brimo-mutants", help="where the copies are built")
     parser.add_argument("--limit", type=int, default=300, help="seconds for one build or one test stage")
-    parser.add_argument("--baseline", metavar="REV",
-                        help="run each point in the tree of REV as well (a point whose line is not there is gone)")
+    parser.add_argument("--revision", metavar="REV", help="the suite and code of REV instead of the working tree")
     args = parser.parse_args()
 
     if args.draw:
@@ -194,48 +289,27 @@ def main():
         return 0
 
     points = read_points()[: args.sample]
-    suites = {"suite": prepare(pathlib.Path(args.scratch) / "current")}
-    if args.baseline:
-        suites["baseline"] = prepare(pathlib.Path(args.scratch) / "baseline", args.baseline)
-    results = {name: collections.defaultdict(list) for name in suites}
     started = time.time()
+    suite = Suite(pathlib.Path(args.scratch) / (args.revision or "working-tree"), args.revision)
+    print(f"built, with coverage of {len(suite.tests)} tests, in {time.time() - started:.0f} s", flush=True)
+    result = collections.defaultdict(list)
     for number, (rel, name, occurrence, nth, line) in enumerate(points, 1):
         label = f"{rel}: {name}: {line.strip()}"
-        verdicts = []
-        for suite, (tree, build) in suites.items():
-            verdict = try_point(tree, build, rel, name, occurrence, nth, line, args.limit)
-            results[suite][verdict].append(label)
-            verdicts.append(f"{suite} {verdict}")
-        print(f"[{number}/{len(points)} {time.time() - started:5.0f}s] {', '.join(verdicts)}: {label}", flush=True)
+        verdict = suite.try_point(rel, name, occurrence, nth, line, args.limit)
+        result[verdict].append(label)
+        print(f"[{number}/{len(points)} {time.time() - started:5.0f}s] {verdict}: {label}", flush=True)
 
-    for suite, result in results.items():
-        print(f"\n== {suite}: faults that no test caught")
-        for label in result["SURVIVED"]:
-            print(f"  {label}")
-        for label in result["gone"]:
-            print(f"  (line gone) {label}")
-        tried = len(result["caught"]) + len(result["SURVIVED"])
-        share = 100.0 * len(result["caught"]) / tried if tried else 0.0
-        print(f"{suite}: {len(result['caught'])} of {tried} faults caught ({share:.1f}%); "
-              f"{len(result['does not build'])} did not build; {len(result['gone'])} gone")
-    print(f"{time.time() - started:.0f} s")
+    print("\n== faults that no test caught")
+    for label in result["SURVIVED"]:
+        print(f"  {label}")
+    for label in result["gone"]:
+        print(f"  (line gone) {label}")
+    tried = len(result["caught"]) + len(result["SURVIVED"])
+    share = 100.0 * len(result["caught"]) / tried if tried else 0.0
+    print(f"{len(result['caught'])} of {tried} faults caught ({share:.1f}%); "
+          f"{len(result['does not build'])} did not build; {len(result['gone'])} gone; "
+          f"{time.time() - started:.0f} s")
     return 0
-
-
-def try_point(tree, build, rel, name, occurrence, nth, line, limit):
-    """Makes the fault, builds, runs the suite, puts the file back: the verdict."""
-    path = tree / rel
-    original = path.read_text(encoding="utf-8")
-    mutated = mutate(original, occurrence, nth, line, name)
-    if mutated is None:
-        return "gone"
-    path.write_text(mutated, encoding="utf-8")
-    try:
-        if run(["cmake", "--build", build, "-j2"], tree, limit) != 0:
-            return "does not build"
-        return "caught" if suite_fails(build, limit) else "SURVIVED"
-    finally:
-        path.write_text(original, encoding="utf-8")
 
 
 if __name__ == "__main__":
