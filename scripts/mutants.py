@@ -190,7 +190,7 @@ class Suite:
             shutil.copytree(ROOT, self.tree, ignore=shutil.ignore_patterns(".git", "build*", "demo"), symlinks=True)
         self.configure(self.build, "-O1")
         self.tests = self.list_tests(self.build)
-        if self.fails(self.build, set(self.tests), 900):
+        if self.failing(self.build, set(self.tests), 900):
             sys.exit("the suite fails without any fault: mend it first")
         self.coverage = self.record_coverage(scratch / "coverage")
 
@@ -247,17 +247,24 @@ class Suite:
             return by_line.get((rel, number)) or None
         return by_file.get(rel) or set(self.tests)
 
-    def fails(self, build, names, limit):
-        """Runs the chosen fast tests first, then the Wine comparison and the runs of the real binary."""
+    def failing(self, build, names, limit):
+        """The chosen tests that fail: every fast one that fails, else the first failing Wine
+        comparison or run of the real binary. Empty when all pass."""
         for stage in STAGES:
             numbers = [str(number) for name, (number, labels) in self.tests.items() if name in names and stage(labels)]
-            if numbers and run(["ctest", "-j2", "--stop-on-failure", "--timeout", "120",
-                                "-I", "0,0,0," + ",".join(numbers)], build, limit) != 0:
-                return True
-        return False
+            if not numbers:
+                continue
+            stop = [] if stage is STAGES[0] else ["--stop-on-failure"]
+            log = build / "Testing" / "Temporary" / "LastTestsFailed.log"
+            log.unlink(missing_ok=True)
+            if run(["ctest", "-j2", *stop, "--timeout", "120", "-I", "0,0,0," + ",".join(numbers)], build, limit):
+                failed = log.read_text().split() if log.exists() else []
+                return sorted(row.split(":", 1)[1] for row in failed) or ["(time limit)"]
+        return []
 
     def try_point(self, rel, name, occurrence, nth, line, limit):
-        """Makes the fault, builds, runs the tests that run its line, puts the file back: the verdict."""
+        """Makes the fault, builds, runs the tests that run its line, puts the file back: the verdict,
+        with the tests that caught it."""
         found = locate(self.tree, rel, occurrence, nth, line, name)
         if found is None:
             return "gone"
@@ -267,9 +274,8 @@ class Suite:
             if run(["cmake", "--build", self.build, "-j2"], self.tree, limit) != 0:
                 return "does not build"
             names = self.tests_for(path.relative_to(self.tree).as_posix(), number)
-            if names is None:
-                return "SURVIVED"
-            return "caught" if self.fails(self.build, names, limit) else "SURVIVED"
+            failed = self.failing(self.build, names, limit) if names else []
+            return ("caught", failed) if failed else "SURVIVED"
         finally:
             path.write_text(original, encoding="utf-8")
 
@@ -292,13 +298,21 @@ def main():
     started = time.time()
     suite = Suite(pathlib.Path(args.scratch) / (args.revision or "working-tree"), args.revision)
     print(f"built, with coverage of {len(suite.tests)} tests, in {time.time() - started:.0f} s", flush=True)
-    result = collections.defaultdict(list)
+    result, catchers = collections.defaultdict(list), collections.defaultdict(list)
     for number, (rel, name, occurrence, nth, line) in enumerate(points, 1):
         label = f"{rel}: {name}: {line.strip()}"
         verdict = suite.try_point(rel, name, occurrence, nth, line, args.limit)
+        if isinstance(verdict, tuple):
+            verdict, failed = verdict
+            for test in failed:
+                catchers[test].append(len(failed) == 1)
+            label += f"  <- {', '.join(failed)}"
         result[verdict].append(label)
         print(f"[{number}/{len(points)} {time.time() - started:5.0f}s] {verdict}: {label}", flush=True)
 
+    print("\n== tests that caught faults: how many, and how many no other fast test caught")
+    for test in sorted(suite.tests, key=lambda t: (-sum(catchers[t]), -len(catchers[t]), t)):
+        print(f"  {len(catchers[test]):3} {sum(catchers[test]):3}  {test}")
     print("\n== faults that no test caught")
     for label in result["SURVIVED"]:
         print(f"  {label}")
