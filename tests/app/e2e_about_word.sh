@@ -7,6 +7,8 @@ e2e_installation
 e2e_start VAbout
 about=$(e2e_wait_window 'About')
 [ "$(xdotool getwindowname "$about")" = About ] || e2e_fail "wrong title"
+# The desktop groups the window by its class: the program's name, not the word.
+xprop -id "$about" WM_CLASS | grep -q '"Brimo2010", "Brimo2010"' || e2e_fail "$(xprop -id "$about" WM_CLASS)"
 e2e_visible 'Choix du module' && e2e_fail "the chooser opened too"
 e2e_focus "$about"
 e2e_keys Return
