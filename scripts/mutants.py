@@ -14,6 +14,7 @@ is found again when lines move; a point whose line is gone is reported.
 
     scripts/mutants.py                 # every point of the list
     scripts/mutants.py --sample 20     # the first 20 points (a quick look)
+    scripts/mutants.py --points 3,17   # points 3 and 17 of the list
     scripts/mutants.py --draw 150      # draw a new list of 150 points
     scripts/mutants.py --revision REV  # the suite and code of an earlier revision
 
@@ -284,6 +285,7 @@ def main():
     parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
     parser.add_argument("--draw", type=int, metavar="N", help="draw a new list of N points and stop")
     parser.add_argument("--sample", type=int, metavar="N", help="run only the first N points of the list")
+    parser.add_argument("--points", metavar="N,M,...", help="run only these points of the list (from 1)")
     parser.add_argument("--scratch", default="/tmp/brimo-mutants", help="where the copies are built")
     parser.add_argument("--limit", type=int, default=300, help="seconds for one build or one test stage")
     parser.add_argument("--revision", metavar="REV", help="the suite and code of REV instead of the working tree")
@@ -294,12 +296,13 @@ def main():
         print(f"{args.draw} points written to {POINTS.relative_to(ROOT)}")
         return 0
 
-    points = read_points()[: args.sample]
+    chosen = {int(n) for n in args.points.split(",")} if args.points else None
+    points = [(n, p) for n, p in enumerate(read_points()[: args.sample], 1) if not chosen or n in chosen]
     started = time.time()
     suite = Suite(pathlib.Path(args.scratch) / (args.revision or "working-tree"), args.revision)
     print(f"built, with coverage of {len(suite.tests)} tests, in {time.time() - started:.0f} s", flush=True)
     result, catchers = collections.defaultdict(list), collections.defaultdict(list)
-    for number, (rel, name, occurrence, nth, line) in enumerate(points, 1):
+    for number, (rel, name, occurrence, nth, line) in points:
         label = f"{rel}: {name}: {line.strip()}"
         verdict = suite.try_point(rel, name, occurrence, nth, line, args.limit)
         if isinstance(verdict, tuple):
@@ -308,7 +311,7 @@ def main():
                 catchers[test].append(len(failed) == 1)
             label += f"  <- {', '.join(failed)}"
         result[verdict].append(label)
-        print(f"[{number}/{len(points)} {time.time() - started:5.0f}s] {verdict}: {label}", flush=True)
+        print(f"[{number} {time.time() - started:5.0f}s] {verdict}: {label}", flush=True)
 
     print("\n== tests that caught faults: how many, and how many no other fast test caught")
     for test in sorted(suite.tests, key=lambda t: (-sum(catchers[t]), -len(catchers[t]), t)):
