@@ -259,8 +259,8 @@ class Suite:
             log = build / "Testing" / "Temporary" / "LastTestsFailed.log"
             log.unlink(missing_ok=True)
             if run(["ctest", "-j2", *stop, "--timeout", "120", "-I", "0,0,0," + ",".join(numbers)], build, limit):
-                failed = log.read_text().split() if log.exists() else []
-                return sorted(row.split(":", 1)[1] for row in failed) or ["(time limit)"]
+                failed = log.read_text().splitlines() if log.exists() else []
+                return sorted(row.partition(":")[2] or row for row in failed) or ["(time limit)"]
         return []
 
     def try_point(self, rel, name, occurrence, nth, line, limit):
