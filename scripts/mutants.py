@@ -260,7 +260,7 @@ class Suite:
             log.unlink(missing_ok=True)
             if run(["ctest", "-j2", *stop, "--timeout", "120", "-I", "0,0,0," + ",".join(numbers)], build, limit):
                 failed = log.read_text().splitlines() if log.exists() else []
-                return sorted(row.partition(":")[2] or row for row in failed) or ["(time limit)"]
+                return sorted(row.partition(":")[2] or row for row in failed if row) or ["(time limit)"]
         return []
 
     def try_point(self, rel, name, occurrence, nth, line, limit):
