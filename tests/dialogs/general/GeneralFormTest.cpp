@@ -127,27 +127,31 @@ TEST_F(GeneralCommitTest, ADoubleQuoteInALispStringIsRefusedWithEveryEditKept) {
     EXPECT_TRUE(ends().isEmpty());
 }
 
-// A commit that cannot write shows one message naming the file, changes
-// nothing and ends with status 1.
+// A commit that cannot write shows one message naming the file and why,
+// changes nothing and ends with status 1.
 TEST_F(GeneralCommitTest, ACommitThatCannotWriteReportsAndChangesNothing) {
     const struct {
         const char* name;
         std::function<void(GeneralFormTest&)> spoil;
         QString named;
+        std::function<QString(GeneralFormTest&)> reason;
     } failures[] = {
         {"folder missing", [](GeneralFormTest& t) { QDir(t.prefix.native("C:\\Zorel\\Var\\jo")).removeRecursively(); },
-         kLispPath},
+         kLispPath,
+         [](GeneralFormTest& t) {
+             return "the folder " + t.prefix.root() + "/dosdevices/c:/Zorel/Var/jo does not exist";
+         }},
         {"read-only Brimo.ini",
          [](GeneralFormTest& t) {
              QFile::setPermissions(t.prefix.native(kIniPath), QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther);
          },
-         kIniPath},
-        {"a folder where Brimo.ini should be",
+         kIniPath, [](GeneralFormTest&) { return QStringLiteral("the file is read-only"); }},
+        {"a folder where Brimo_Gene.lsp should be",
          [](GeneralFormTest& t) {
-             QFile::remove(t.prefix.native(kIniPath));
-             t.prefix.makeFolder(kIniPath);
+             QFile::remove(t.prefix.native(kLispPath));
+             t.prefix.makeFolder(kLispPath);
          },
-         kIniPath},
+         kLispPath, [](GeneralFormTest&) { return QStringLiteral("a folder of that name stands in the way"); }},
     };
     for (const auto& failure : failures) {
         SCOPED_TRACE(failure.name);
@@ -161,13 +165,15 @@ TEST_F(GeneralCommitTest, ACommitThatCannotWriteReportsAndChangesNothing) {
         const QByteArray iniBefore = ini(), lispBefore = lisp();
         find<QPushButton>("cmdOK")->click();
         ASSERT_EQ(messages.size(), 1);
-        EXPECT_TRUE(messages[0].text.contains(failure.named));
+        EXPECT_EQ(messages[0].text.toStdString(), QStringLiteral("Le fichier %1 n'a pas pu être écrit : %2.\r\n"
+                                                   "Aucun fichier n'a été modifié.\r\n\r\n"
+                                                   "The file %1 could not be written: %2.\r\nNo file was changed.")
+                                        .arg(failure.named, failure.reason(*this)).toStdString());
         EXPECT_EQ(ends(), QList<int>{1});
         EXPECT_EQ(ini(), iniBefore);
         EXPECT_EQ(lisp(), lispBefore);
     }
 }
-
 // Leaving a field runs its rule; a refusal shows legends 166 and 167 and
 // keeps the focus. The rules themselves are tested on their own table.
 TEST_F(GeneralFormTest, LeavingAFieldRepairsOrRefusesItsText) {
