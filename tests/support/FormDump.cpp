@@ -55,12 +55,13 @@ static QString placeOf(const QWidget* w, const QWidget* form) {
 }
 
 QByteArray DumpForm(QWidget* form) {
-    QStringList lines{QStringLiteral("window \"%1\" %2x%3 fixed=%4 minmax=%5")
+    QStringList lines{QStringLiteral("window \"%1\" %2x%3 fixed=%4 minmax=%5 icon=%6")
                           .arg(form->windowTitle())
                           .arg(form->width())
                           .arg(form->height())
                           .arg(form->minimumSize() == form->maximumSize())
-                          .arg(bool(form->windowFlags() & Qt::WindowMinMaxButtonsHint))};
+                          .arg(bool(form->windowFlags() & Qt::WindowMinMaxButtonsHint))
+                          .arg(!form->windowIcon().isNull())};
     QList<QWidget*> named;
     for (QWidget* w : form->findChildren<QWidget*>()) {
         if (w->objectName().isEmpty() || w->objectName().startsWith(QLatin1String("qt_"))) continue;
