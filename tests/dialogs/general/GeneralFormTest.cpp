@@ -221,6 +221,20 @@ TEST_F(GeneralFormTest, LeavingAFieldRepairsOrRefusesItsText) {
     }
 }
 
+// Two refused texts: the focus goes back to the field left first, without the
+// other one's rule taking it away again.
+TEST_F(GeneralFormTest, ARefusalDoesNotStartTheNextFieldsRule) {
+    open();
+    auto* val0 = find<QLineEdit>("Val0");
+    auto* val3 = find<QLineEdit>("Val3");
+    val0->setText("abc");
+    val3->setText("abc");
+    val0->setFocus();
+    val3->setFocus();
+    EXPECT_EQ(messages.size(), 1);
+    EXPECT_EQ(QApplication::focusWidget(), val0);
+}
+
 TEST_F(GeneralFormTest, ATabChangeWordsThatTabAgain) {
     open();
     EXPECT_EQ(QApplication::focusWidget(), find<QPushButton>("cmdOK"));
