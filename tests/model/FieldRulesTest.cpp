@@ -3,6 +3,7 @@
 // gives what the field holds afterwards in both.
 
 #include "model/FieldRules.h"
+#include "model/GeneralVariables.h"
 #include "platform/RegionalNumbers.h"
 
 #include <gtest/gtest.h>
@@ -104,7 +105,11 @@ TEST(FieldRules, TablesCoverTheirFieldsOnce) {
     EXPECT_EQ(SlopeFieldRules().size(), 6u);
     for (const FieldRule& rule : GeneralFieldRules())
         EXPECT_EQ(FindFieldRule(GeneralFieldRules(), QLatin1String(rule.control)), &rule) << rule.control;
-    // The layer name is the one default that differs from the catalogue's.
+    // An emptied field takes its variable's default, but for the layer name.
+    const GeneralVariables defaults;
+    for (const FieldRule& rule : GeneralFieldRules())
+        if (QLatin1String(rule.control) != "Val4")
+            EXPECT_EQ(ApplyLeavingRule(rule, QString()).text, defaults.text(QLatin1String(rule.key))) << rule.control;
     EXPECT_EQ(DefaultTextOf(*FindFieldRule(GeneralFieldRules(), u"Val4")), QStringLiteral("CADRE"));
 }
 
