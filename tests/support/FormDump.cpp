@@ -26,8 +26,14 @@ static QString stateOf(QWidget* w) {
     if (!w->isEnabled()) state << "disabled";
     if (auto* box = qobject_cast<QCheckBox*>(w)) state << QStringLiteral("state=%1").arg(box->checkState());
     else if (auto* option = qobject_cast<QRadioButton*>(w); option && option->isChecked()) state << "selected";
-    if (auto* button = qobject_cast<QPushButton*>(w); button && button->isDefault()) state << "default";
-    if (auto* field = qobject_cast<QLineEdit*>(w); field && (field->alignment() & Qt::AlignHCenter)) state << "centred";
+    if (auto* button = qobject_cast<QPushButton*>(w)) {
+        if (button->isDefault()) state << "default";
+        if (!button->icon().isNull()) state << "icon";
+    }
+    if (auto* field = qobject_cast<QLineEdit*>(w)) {
+        if (field->alignment() & Qt::AlignHCenter) state << "centred";
+        if (field->cursorPosition()) state << QStringLiteral("cursor=%1").arg(field->cursorPosition());
+    }
     if (auto* tabs = qobject_cast<QTabWidget*>(w)) state << tabsOf(tabs);
     if (auto* tabs = qobject_cast<RowTabControl*>(w)) state << tabsOf(tabs);
     return state.join(QLatin1Char(' '));
