@@ -249,7 +249,7 @@ TEST_F(GeneralFormTest, ATabChangeWordsThatTabAgain) {
 }
 
 TEST_F(GeneralFormTest, SwitchingLanguageRewordsEveryTabKeepsTheValuesAndRunsNoRule) {
-    writeBrimoIni("[Brimo_Gene]\r\ncadre_usery=abc\r\n");
+    writeBrimoIni("[Brimo_Gene]\r\ncadre_usery=abc\r\nx_ht_gc1=xyz\r\n");
     open();
     find<QLineEdit>("Val15")->setText("Mon bureau");
     clickOption("Option5(2)");
