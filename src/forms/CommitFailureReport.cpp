@@ -4,14 +4,17 @@
 
 namespace brimo {
 
-void ReportCommitFailureAndEnd(Navigator& navigator, const CommitOutcome& outcome) {
-    const QString text = QStringLiteral("Le fichier %1 n'a pas pu être écrit : %2.\r\n"
-                                        "Aucun fichier n'a été modifié.\r\n\r\n"
-                                        "The file %1 could not be written: %2.\r\n"
-                                        "No file was changed.")
-                             .arg(outcome.file, outcome.reason);
+void ReportCommitFailure(Navigator& navigator, const CommitOutcome& outcome) {
+    QString text = QStringLiteral("Le fichier %1 n'a pas pu être écrit : %2.\r\n"
+                                  "Aucun fichier n'a été modifié.\r\n\r\n"
+                                  "The file %1 could not be written: %2.\r\n"
+                                  "No file was changed.")
+                       .arg(outcome.file, outcome.reason);
+    if (outcome.busy)
+        text += QStringLiteral("\r\n\r\nLa fenêtre reste ouverte : validez à nouveau dans un instant.\r\n"
+                               "The window stays open: press OK again in a moment.");
     ShowInformationBox(text, QStringLiteral("Brimo"));
-    navigator.End(1);
+    if (!outcome.busy) navigator.End(1);
 }
 
 } // namespace brimo

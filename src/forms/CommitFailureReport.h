@@ -10,7 +10,9 @@
 namespace brimo {
 
 // One message naming the file and the reason, then the end of the process
-// with a non-zero status. Nothing of either file has changed by then.
-void ReportCommitFailureAndEnd(Navigator& navigator, const CommitOutcome& outcome);
+// with a non-zero status. Nothing of either file has changed by then. When
+// another program was writing the files, the dialog stays open instead, with
+// its edits, so that OK can be pressed again.
+void ReportCommitFailure(Navigator& navigator, const CommitOutcome& outcome);
 
 } // namespace brimo

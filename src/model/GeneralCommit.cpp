@@ -1,6 +1,7 @@
 #include "model/GeneralCommit.h"
 
 #include "model/GeneLispCatalogue.h"
+#include "model/GeneralLoad.h"
 
 namespace brimo {
 
@@ -29,6 +30,34 @@ std::optional<QString> valueOfRow(const CommitSource& source, const GeneralContr
         return std::nullopt;
     }
     return std::nullopt;
+}
+
+// What a state holds for the control of a row: a field's text, a box's
+// state, or the buttons selected in a group.
+QString held(const GeneralControlState& state, const CommitSource& source) {
+    const QString control = QLatin1String(source.control);
+    switch (source.read) {
+    case ControlRead::Text: return state.texts.value(control);
+    case ControlRead::State: return QString::number(state.checkStates.value(control));
+    case ControlRead::Options: break;
+    }
+    QStringList selected;
+    for (const QString& button : state.selectedOptions)
+        if (OptionGroupOf(button) == control) selected.append(button);
+    selected.sort();
+    return selected.join(QLatin1Char(' '));
+}
+
+void takeControl(GeneralControlState& into, const GeneralControlState& from, const CommitSource& source) {
+    const QString control = QLatin1String(source.control);
+    switch (source.read) {
+    case ControlRead::Text: into.texts.insert(control, from.texts.value(control)); return;
+    case ControlRead::State: into.checkStates.insert(control, from.checkStates.value(control)); return;
+    case ControlRead::Options: break;
+    }
+    erase_if(into.selectedOptions, [&](const QString& button) { return OptionGroupOf(button) == control; });
+    for (const QString& button : from.selectedOptions)
+        if (OptionGroupOf(button) == control) into.selectedOptions.insert(button);
 }
 
 bool writtenBetweenQuotes(const GeneLispRow& row) {
@@ -68,6 +97,32 @@ QString UnwritableQuoteMessage(const UnwritableField& field) {
                           "The field \"%1\" (%2) holds a double quote (\"), which the Lisp file cannot take. "
                           "Remove it, then press OK again.")
         .arg(field.comment, field.key);
+}
+
+GeneralControlState MergeStoredChanges(const GeneralEdit& edit, const GeneralVariables& storedNow) {
+    const GeneralControlState before = LoadedControlState(edit.loadedFrom);
+    const GeneralControlState after = LoadedControlState(storedNow);
+    GeneralControlState merged = edit.edited;
+    for (const CommitSource& source : kGeneralCommitSources)
+        if (held(before, source) != held(after, source) && held(edit.edited, source) == held(edit.loaded, source))
+            takeControl(merged, after, source);
+    return merged;
+}
+
+GeneralCommitOutcome CommitGeneral(const InstallInfo& info, const GeneralEdit& edit) {
+    const UserFolderLock lock(BrimoIniPath(info));
+    CommitPlan plan(lock);
+    GeneralVariables storedNow;
+    LoadGeneralVariables(plan.ini(), storedNow);
+    const GeneralControlState merged = MergeStoredChanges(edit, storedNow);
+    GeneralCommitOutcome outcome;
+    if ((outcome.unwritable = FindUnwritableQuote(merged))) {
+        outcome.ok = false;
+        return outcome;
+    }
+    plan.add(GeneLispPath(info), QLatin1String(kGeneralSection), ComposeGeneralCommit(merged));
+    static_cast<CommitOutcome&>(outcome) = plan.write();
+    return outcome;
 }
 
 } // namespace brimo

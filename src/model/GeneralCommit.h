@@ -5,6 +5,8 @@
 // The commit of CGeneralForm without its window: from what the controls hold
 // to the rows of Brimo_Gene.lsp and section Brimo_Gene of Brimo.ini.
 
+#include "model/GeneralVariables.h"
+#include "model/InstallInfo.h"
 #include "model/VariableCommit.h"
 
 #include <QHash>
@@ -133,5 +135,29 @@ std::optional<UnwritableField> FindUnwritableQuote(const GeneralControlState& st
 
 // The refusal, in French and in English, naming the field.
 QString UnwritableQuoteMessage(const UnwritableField& field);
+
+// The general dialog at its OK: the values it loaded, its controls right
+// after the load, and its controls now.
+struct GeneralEdit {
+    GeneralVariables loadedFrom;
+    GeneralControlState loaded;
+    GeneralControlState edited;
+};
+
+// What OK writes when another program may have written Brimo.ini since the
+// dialog loaded it: a control whose stored value changed meanwhile, and that
+// the user left as it was loaded, takes what the dialog would load now; every
+// other control keeps what it holds. Where nothing changed on the disk, this
+// is the controls as they stand.
+GeneralControlState MergeStoredChanges(const GeneralEdit& edit, const GeneralVariables& storedNow);
+
+struct GeneralCommitOutcome : CommitOutcome {
+    std::optional<UnwritableField> unwritable; // refused before anything was written
+};
+
+// The OK of the general dialog: under the lock of the user's folder,
+// Brimo.ini read anew and merged with the controls, then Brimo_Gene.lsp and
+// section Brimo_Gene written together, all or nothing.
+GeneralCommitOutcome CommitGeneral(const InstallInfo& info, const GeneralEdit& edit);
 
 } // namespace brimo

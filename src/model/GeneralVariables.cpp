@@ -7,10 +7,6 @@
 
 namespace brimo {
 
-namespace {
-const QString kSection = QStringLiteral("Brimo_Gene");
-}
-
 VariableValue DefaultValue(const GeneralVariableRow& entry) {
     switch (entry.defaultKind) {
     case DefaultKind::Int: return static_cast<qint16>(entry.defaultNumber);
@@ -46,10 +42,13 @@ void GeneralVariables::setText(QAnyStringView key, const QString& text) { values
 void GeneralVariables::setValue(QAnyStringView key, VariableValue value) { values_[indexOf(key)] = std::move(value); }
 
 void LoadGeneralVariables(const InstallInfo& info, GeneralVariables& variables) {
-    const ProfileDocument ini = LoadProfile(BrimoIniPath(info));
+    LoadGeneralVariables(LoadProfile(BrimoIniPath(info)), variables);
+}
+
+void LoadGeneralVariables(const ProfileDocument& ini, GeneralVariables& variables) {
     for (const GeneralVariableRow& entry : kGeneralVariableCatalogue) {
         const QString key = QLatin1String(entry.key);
-        const QString read = ReadProfileString(ini, kSection, key);
+        const QString read = ReadProfileString(ini, QLatin1String(kGeneralSection), key);
         if (read.isEmpty()) variables.setValue(key, DefaultValue(entry));
         else variables.setText(key, read);
     }

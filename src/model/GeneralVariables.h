@@ -8,12 +8,16 @@
 
 #include "model/GeneralVariableCatalogue.h"
 #include "model/InstallInfo.h"
+#include "platform/ProfileDocument.h"
 
 #include <QString>
 #include <array>
 #include <variant>
 
 namespace brimo {
+
+// The section of Brimo.ini that holds them.
+inline constexpr char kGeneralSection[] = "Brimo_Gene";
 
 using VariableValue = std::variant<QString, qint16, double>;
 
@@ -43,5 +47,7 @@ VariableValue DefaultValue(const GeneralVariableRow& entry);
 // Reads the 51 keys of section Brimo_Gene from BrimoIniPath(info), in the
 // catalogue's order; a missing or empty value takes its default.
 void LoadGeneralVariables(const InstallInfo& info, GeneralVariables& variables);
+// The same from a Brimo.ini already read.
+void LoadGeneralVariables(const ProfileDocument& ini, GeneralVariables& variables);
 
 } // namespace brimo

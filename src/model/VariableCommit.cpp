@@ -4,24 +4,46 @@
 #include "platform/Cp1252.h"
 #include "platform/WindowsPaths.h"
 
+#include <QFile>
 #include <QFileInfo>
+
+#include <cstdio>
 
 namespace brimo {
 
 namespace {
 
-// The commit's journal lies beside Brimo.ini.
+// The commit's journal and the folder's lock lie beside Brimo.ini.
 QString journalBeside(const QString& nativeIni) {
     return QFileInfo(nativeIni).absolutePath() + QStringLiteral("/Brimo.commit-journal");
+}
+QString lockBeside(const QString& nativeIni) {
+    return nativeIni.isEmpty() ? QString() : nativeIni + QStringLiteral(".lock");
 }
 
 } // namespace
 
-CommitPlan::CommitPlan(const QString& iniPath) : iniPath_(iniPath), nativeIni_(ToNativePath(iniPath)) {
+UserFolderLock::UserFolderLock(const QString& iniPath)
+    : iniPath_(iniPath), nativeIni_(ToNativePath(iniPath)), lock_(lockBeside(nativeIni_), kUserFolderLockWait) {
+    if (nativeIni_.isEmpty()) return; // a path that names no folder here
+    if (busy()) {
+        std::fprintf(stderr, "Brimo: %s: %s\n", QFile::encodeName(nativeIni_).constData(),
+                     lock_.why().toLocal8Bit().constData());
+        return;
+    }
+    recovery_ = RecoverFilesTogether(journalBeside(nativeIni_));
+}
+
+CommitPlan::CommitPlan(const UserFolderLock& lock)
+    : iniPath_(lock.iniPath()), nativeIni_(ToNativePath(lock.iniPath())) {
+    if (lock.busy()) {
+        readFailure_ = lock.busyOutcome();
+        return;
+    }
     if (!QFileInfo::exists(nativeIni_)) return;
     QString error;
     auto bytes = ReadWholeFile(nativeIni_, &error);
-    if (!bytes) readFailure_ = {false, iniPath, error};
+    if (!bytes) readFailure_ = {false, iniPath_, error};
     else ini_ = ProfileDocument(std::move(*bytes));
 }
 
@@ -67,15 +89,12 @@ CommitOutcome CommitPlan::write() const {
 
 CommitOutcome CommitVariables(const QString& lispPath, const QString& iniPath, const QString& section,
                               const QList<CommittedRow>& rows) {
-    CommitPlan plan(iniPath);
+    const UserFolderLock lock(iniPath);
+    CommitPlan plan(lock);
     plan.add(lispPath, section, rows);
     return plan.write();
 }
 
-Recovery RecoverInterruptedCommit(const InstallInfo& info) {
-    const QString nativeIni = ToNativePath(BrimoIniPath(info));
-    if (nativeIni.isEmpty()) return Recovery::Nothing; // a path that names no folder here
-    return RecoverFilesTogether(journalBeside(nativeIni));
-}
+Recovery RecoverInterruptedCommit(const InstallInfo& info) { return UserFolderLock(BrimoIniPath(info)).recovery(); }
 
 } // namespace brimo

@@ -6,16 +6,19 @@
 // and a key of one section of Brimo.ini. Both files are written whole, the
 // Lisp file first, all or nothing: a failure leaves both as they were, and a
 // kill or a power loss at any moment leaves both old or both new once the
-// next start has run RecoverInterruptedCommit.
+// next start has run RecoverInterruptedCommit. Two programs never write
+// these files at once: every commit, and every recovery of one, holds the
+// lock of the folder of Brimo.ini.
 
 #include "model/InstallInfo.h"
 #include "platform/FileAccess.h"
-
-#include "platform/FileAccess.h"
+#include "platform/FolderLock.h"
 #include "platform/ProfileDocument.h"
 
 #include <QList>
 #include <QString>
+
+#include <chrono>
 
 namespace brimo {
 
@@ -29,15 +32,42 @@ struct CommitOutcome {
     bool ok = true;
     QString file;   // the Windows path of the file that could not be written
     QString reason;
+    bool busy = false; // another program was writing them: worth another try
+};
+
+// How long a writer waits for another program's commit to end.
+inline constexpr std::chrono::seconds kUserFolderLockWait{5};
+
+// The lock of the folder of Brimo.ini, held from its construction to its
+// end. Once it is held, a commit that a kill cut off in that folder has been
+// finished or undone, so that what is read next is a whole pair.
+class UserFolderLock {
+public:
+    explicit UserFolderLock(const QString& iniPath);
+
+    const QString& iniPath() const { return iniPath_; }
+    // Another program kept the lock through the whole wait: nothing may be
+    // written, and the outcome says who holds it.
+    bool busy() const { return lock_.state() == FolderLock::State::Busy; }
+    CommitOutcome busyOutcome() const { return {false, iniPath_, lock_.why(), true}; }
+    Recovery recovery() const { return recovery_; }
+
+private:
+    QString iniPath_, nativeIni_;
+    FolderLock lock_;
+    Recovery recovery_ = Recovery::Nothing;
 };
 
 // One or more commits on the same Brimo.ini, composed in memory and written
 // together: each Lisp file, then Brimo.ini, all or nothing.
 class CommitPlan {
 public:
-    // Reads Brimo.ini as it stands; a file that exists and cannot be read
-    // makes the plan fail.
-    explicit CommitPlan(const QString& iniPath);
+    // Reads Brimo.ini as it stands under the lock; a file that exists and
+    // cannot be read makes the plan fail, and so does a busy lock.
+    explicit CommitPlan(const UserFolderLock& lock);
+
+    // Brimo.ini as read.
+    const ProfileDocument& ini() const { return ini_; }
 
     void add(const QString& lispPath, const QString& section, const QList<CommittedRow>& rows);
 
@@ -58,12 +88,15 @@ private:
     QList<File> lispFiles_;
 };
 
+// One section's rows, written under the lock of the folder.
 CommitOutcome CommitVariables(const QString& lispPath, const QString& iniPath, const QString& section,
                               const QList<CommittedRow>& rows);
 
 // Finishes or undoes a commit that a kill or a power loss cut off in the
-// folder of Brimo.ini: every program that reads or writes these files calls it
-// at its start, before it reads any of them. Reports what it did on stderr.
+// folder of Brimo.ini, under its lock (left alone when another program keeps
+// the lock: its commit is in progress). Every program that reads or writes
+// these files calls it at its start, before it reads any of them. Reports
+// what it did on stderr.
 Recovery RecoverInterruptedCommit(const InstallInfo& info);
 
 } // namespace brimo

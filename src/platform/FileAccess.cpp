@@ -17,6 +17,10 @@
 
 namespace brimo {
 
+namespace {
+constexpr int kMaxLinkDepth = 40; // as the system counts a loop of links
+}
+
 std::optional<QByteArray> ReadWholeFile(const QString& nativePath, QString* error) {
     if (QFileInfo(nativePath).isDir()) {
         if (error) *error = QStringLiteral("a folder stands where the file should be");
@@ -49,6 +53,10 @@ bool folderAndFileWritable(const QString& nativePath, QString* error) {
     }
     if (info.isDir()) {
         if (error) *error = QStringLiteral("a folder of that name stands in the way");
+        return false;
+    }
+    if (info.exists() && !info.isFile()) {
+        if (error) *error = QStringLiteral("not a regular file");
         return false;
     }
     // A file without any write bit is read-only for every user, root too, as
@@ -90,33 +98,60 @@ bool SyncFolder(const QString& nativeFolder) {
     return ok;
 }
 
+std::optional<QString> FollowLinks(const QString& nativePath, QString* error) {
+    QString path = nativePath;
+    for (int depth = 0; depth < kMaxLinkDepth; ++depth) {
+        const QFileInfo info(path);
+        if (!info.isSymLink()) return path;
+        path = info.symLinkTarget();
+    }
+    if (error) *error = QStringLiteral("too many levels of symbolic links");
+    return std::nullopt;
+}
+
 bool WriteFilesTogether(const QList<FileToWrite>& files, const QString& journalPath, QString* failedPath,
                         QString* error) {
     const QString folder = folderOf(journalPath);
+    // Each file as written: the file its links lead to, its staged copy
+    // beside it, and the old content where a later move could fail.
+    struct Move {
+        QString target, staged;
+        std::optional<QByteArray> previous;
+    };
+    QList<Move> moves;
     QList<JournalEntry> entries;
-    QStringList staged;
-    std::vector<std::optional<QByteArray>> previous;
     const auto dropStaged = [&] {
-        for (const QString& path : staged) QFile::remove(path);
+        for (const Move& move : moves) QFile::remove(move.staged);
     };
     for (const FileToWrite& file : files) {
         if (failedPath) *failedPath = file.nativePath;
-        if (!folderAndFileWritable(file.nativePath, error)) return dropStaged(), false;
         if (folderOf(file.nativePath) != folder) {
             if (error) *error = QStringLiteral("the files of one commit must share a folder");
             return dropStaged(), false;
         }
-        const QFileInfo target(file.nativePath);
-        const QString stagedPath = file.nativePath + QLatin1String(kStagedSuffix);
-        QFile::remove(stagedPath); // what a killed commit left, read-only or not
-        if (!writeDurably(stagedPath, file.bytes, error)) return dropStaged(), false;
-        staged.append(stagedPath);
-        if (target.exists()) QFile::setPermissions(stagedPath, target.permissions());
-        entries.append({QFile::encodeName(target.fileName() + QLatin1String(kStagedSuffix)),
-                        QFile::encodeName(target.fileName())});
-        // Only the files moved before another can need their old content back.
-        const bool last = &file == &files.back();
-        previous.push_back(!last && target.exists() ? ReadWholeFile(file.nativePath) : std::nullopt);
+        const std::optional<QString> target = FollowLinks(file.nativePath, error);
+        if (!target || !folderAndFileWritable(*target, error)) return dropStaged(), false;
+        const QFileInfo old(*target);
+        Move move{*target, *target + QLatin1String(kStagedSuffix), std::nullopt};
+        // Only the files moved before another can need their old content
+        // back; one that cannot be read could not be put back, so the
+        // commit stops here, before anything has moved.
+        if (&file != &files.back() && old.exists()) {
+            QString why;
+            move.previous = ReadWholeFile(*target, &why);
+            if (!move.previous) {
+                if (error) *error = QStringLiteral("it cannot be read (%1), so it could not be put back").arg(why);
+                return dropStaged(), false;
+            }
+        }
+        QFile::remove(move.staged); // what a killed commit left, read-only or not
+        if (!writeDurably(move.staged, file.bytes, error)) return dropStaged(), false;
+        moves.append(move);
+        if (old.exists()) QFile::setPermissions(move.staged, old.permissions());
+        // The journal names the files as the folder holds them; a start
+        // follows their links as this commit did.
+        const QString name = QFileInfo(file.nativePath).fileName();
+        entries.append({QFile::encodeName(name + QLatin1String(kStagedSuffix)), QFile::encodeName(name)});
     }
 
     // From the moment the journal is on the disk, a start after a kill
@@ -126,24 +161,26 @@ bool WriteFilesTogether(const QList<FileToWrite>& files, const QString& journalP
         QFile::remove(journalPath);
         return dropStaged(), false;
     }
-    for (qsizetype i = 0; i < files.size(); ++i) {
-        if (::rename(QFile::encodeName(staged[i]).constData(), QFile::encodeName(files[i].nativePath).constData()) == 0)
+    for (qsizetype i = 0; i < moves.size(); ++i) {
+        const Move& move = moves[i];
+        if (::rename(QFile::encodeName(move.staged).constData(), QFile::encodeName(move.target).constData()) == 0)
             continue;
         if (failedPath) *failedPath = files[i].nativePath;
         if (error) *error = QString::fromLocal8Bit(std::strerror(errno));
         // Put back what the earlier moves replaced, then give up the commit.
-        // A kill while the old content goes back has the start finish the
-        // moves; only between the last restore and the journal's removal
-        // would a kill still leave the files apart.
+        // Only a kill between the first restore and the journal's removal
+        // would still leave the files apart.
         for (qsizetype j = 0; j < i; ++j) {
-            if (previous[static_cast<std::size_t>(j)]) WriteWholeFile(files[j].nativePath, *previous[static_cast<std::size_t>(j)]);
-            else QFile::remove(files[j].nativePath);
+            if (moves[j].previous) WriteWholeFile(moves[j].target, *moves[j].previous);
+            else QFile::remove(moves[j].target);
         }
         QFile::remove(journalPath);
         dropStaged();
         SyncFolder(folder);
         return false;
     }
+    for (const Move& move : moves)
+        if (folderOf(move.target) != folder) SyncFolder(folderOf(move.target));
     SyncFolder(folder);
     QFile::remove(journalPath);
     SyncFolder(folder);

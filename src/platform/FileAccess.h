@@ -16,6 +16,11 @@ std::optional<QByteArray> ReadWholeFile(const QString& nativePath, QString* erro
 // The folder is not created. On failure returns false and says why in `error`.
 bool WriteWholeFile(const QString& nativePath, const QByteArray& bytes, QString* error = nullptr);
 
+// The file that a path leads to once every symbolic link is followed, so
+// that a link is written through and never replaced; a link that leads
+// nowhere gives the file it would create. Nothing, with `error`, for a loop.
+std::optional<QString> FollowLinks(const QString& nativePath, QString* error = nullptr);
+
 // Flushes the entries of a folder (the names created, moved or removed in it)
 // to the disk, so that a move survives a power loss.
 bool SyncFolder(const QString& nativeFolder);
@@ -30,12 +35,14 @@ struct FileToWrite {
 };
 
 // Writes several files of one folder all or nothing, even across a kill or
-// a power loss. Each file goes to its staged copy (its name and
-// kStagedSuffix), flushed to the disk; then the journal at `journalPath`
-// (same folder) names them all and is flushed; then the staged copies are
-// moved over the files in the order given, the folder is flushed, and the
-// journal removed. Should a move fail, the files already moved get their old
-// content back. On failure `failedPath` names the file and `error` says why.
+// a power loss. Each file goes to its staged copy (the name of the file its
+// links lead to, and kStagedSuffix), flushed to the disk; then the journal
+// at `journalPath` (same folder) names them all and is flushed; then the
+// staged copies are moved over the files in the order given, the folders
+// are flushed, and the journal removed. Only regular files are replaced.
+// Should a move fail, the files already moved get their old content back.
+// On failure `failedPath` names the file and `error` says why. The caller
+// holds the folder's lock.
 bool WriteFilesTogether(const QList<FileToWrite>& files, const QString& journalPath, QString* failedPath,
                         QString* error);
 
@@ -49,7 +56,9 @@ enum class Recovery {
 
 // What the start of a program does before it reads any file of the folder of
 // `journalPath`: finishes or drops a WriteFilesTogether that was interrupted,
-// and removes every staged copy left in that folder. Reports on stderr.
+// and removes every staged copy left in that folder or beside the files its
+// links lead to. Reports on stderr. The caller holds the folder's lock, so
+// that no commit is in progress.
 Recovery RecoverFilesTogether(const QString& journalPath);
 
 } // namespace brimo

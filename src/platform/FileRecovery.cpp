@@ -19,32 +19,44 @@ void report(const QString& path, const char* what) {
     std::fprintf(stderr, "Brimo: %s: %s\n", QFile::encodeName(path).constData(), what);
 }
 
-// Moves each staged copy that is still there over its file. A copy that is
-// gone was moved before the kill.
+// Moves each staged copy that is still there over its file, following the
+// file's links as the commit did. A copy that is gone was moved before the
+// kill.
 bool rollForward(const QString& folder, const QList<JournalEntry>& entries, const QString& journalPath) {
     for (const JournalEntry& entry : entries) {
-        const QByteArray staged = QFile::encodeName(folder) + '/' + entry.staged;
-        const QByteArray target = QFile::encodeName(folder) + '/' + entry.target;
-        if (!QFileInfo::exists(QFile::decodeName(staged))) continue;
-        if (::rename(staged.constData(), target.constData()) != 0) {
-            const QByteArray why = "cannot move " + entry.staged + ": " + std::strerror(errno) +
-                                   "; the commit is left to finish at the next start";
-            report(journalPath, why.constData());
+        QString why;
+        const std::optional<QString> target = FollowLinks(folder + QLatin1Char('/') + QFile::decodeName(entry.target), &why);
+        const QString staged = target.value_or(QString()) + QLatin1String(kStagedSuffix);
+        if (target && !QFileInfo::exists(staged)) continue;
+        if (!target || ::rename(QFile::encodeName(staged).constData(), QFile::encodeName(*target).constData()) != 0) {
+            if (target) why = QString::fromLocal8Bit(std::strerror(errno));
+            const QByteArray what = "cannot move " + entry.staged + ": " + why.toLocal8Bit() +
+                                    "; the commit is left to finish at the next start";
+            report(journalPath, what.constData());
             return false;
         }
+        if (QFileInfo(*target).absolutePath() != folder) SyncFolder(QFileInfo(*target).absolutePath());
     }
     SyncFolder(folder);
     return true;
 }
 
 // Staged copies that no complete journal names are what a kill left before
-// the journal was on the disk: they never reached their files.
+// the journal was on the disk: they never reached their files. They lie in
+// the folder, or beside the file that a link of the folder leads to.
 bool removeStagedCopies(const QString& folder) {
     const QDir dir(folder);
-    const QStringList names = dir.entryList({QLatin1Char('*') + QLatin1String(kStagedSuffix)},
-                                            QDir::Files | QDir::Hidden | QDir::System | QDir::CaseSensitive);
-    for (const QString& name : names) QFile::remove(dir.filePath(name));
-    return !names.isEmpty();
+    const auto all = QDir::Hidden | QDir::System | QDir::CaseSensitive;
+    QStringList staged;
+    for (const QString& name : dir.entryList({QLatin1Char('*') + QLatin1String(kStagedSuffix)}, QDir::Files | all))
+        staged.append(dir.filePath(name));
+    for (const QFileInfo& link : dir.entryInfoList(QDir::Files | QDir::System | all))
+        if (link.isSymLink())
+            if (const std::optional<QString> target = FollowLinks(link.filePath()))
+                if (QFileInfo(*target + QLatin1String(kStagedSuffix)).isFile())
+                    staged.append(*target + QLatin1String(kStagedSuffix));
+    for (const QString& path : staged) QFile::remove(path);
+    return !staged.isEmpty();
 }
 
 } // namespace

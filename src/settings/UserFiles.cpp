@@ -22,8 +22,7 @@ QString slopeOpeningValue(const SettingKey& key) {
 UserFiles::UserFiles(const std::optional<QString>& user) {
     LoadInstallInfo(info_);
     if (user) info_.actuel = *user == QLatin1String("Default") ? QString() : *user;
-    // A commit cut short by a kill is finished or undone before anything is read.
-    RecoverInterruptedCommit(info_);
+    lock_.emplace(BrimoIniPath(info_));
     ini_ = LoadProfile(BrimoIniPath(info_));
     LoadGeneralVariables(info_, variables_);
 }

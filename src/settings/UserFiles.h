@@ -23,11 +23,15 @@ struct ShownValue {
 
 class UserFiles {
 public:
-    // Reads zorel.ini and Brimo.ini as the program's entry does; `user`
-    // stands in for [Users] actuel.
+    // Reads zorel.ini, takes the lock of the user's folder (which finishes
+    // or undoes a commit that a kill cut off) and reads Brimo.ini, as the
+    // program's entry does; `user` stands in for [Users] actuel. The lock is
+    // held until this object ends, so that no other program writes between
+    // what is read here and what is written.
     explicit UserFiles(const std::optional<QString>& user);
 
     const InstallInfo& info() const { return info_; }
+    const UserFolderLock& lock() const { return *lock_; }
 
     // Each key of the section with the text the dialog starts from: the
     // stored text, or the default (the form's design for the slope dialog).
@@ -48,6 +52,7 @@ public:
 
 private:
     InstallInfo info_;
+    std::optional<UserFolderLock> lock_;
     ProfileDocument ini_;
     GeneralVariables variables_;
 };

@@ -76,7 +76,11 @@ struct Tally {
 // differ (unless only checking). False when the prefix failed.
 bool commitOnPrefix(const Options& options, const SectionEdits& edits, const QString& prefix, Tally& tally) {
     const UserFiles user(options.user);
-    CommitPlan plan(BrimoIniPath(user.info()));
+    if (user.lock().busy()) {
+        Complain(QStringLiteral("%1: %2: %3").arg(prefix, user.lock().iniPath(), user.lock().busyOutcome().reason));
+        return false;
+    }
+    CommitPlan plan(user.lock());
     QString report;
     for (const auto& [section, sectionEdits] : edits) {
         QString error;

@@ -25,8 +25,6 @@ namespace brimo {
 
 namespace {
 
-const QString kSection = QStringLiteral("Brimo_Gene");
-
 // Check box values as the settings store them: 0 empty, 1 ticked, 2 grey.
 int checkValue(Qt::CheckState state) {
     switch (state) {
@@ -97,6 +95,10 @@ void CGeneralForm::Form_Load() {
             checkBox(QLatin1String(stored.checkBox))->setCheckState(checkStateOf(*value));
 
     CentreOnScreen(this);
+    // What OK compares with, to keep what another program writes meanwhile
+    // in the controls that the user leaves alone.
+    loadedFrom_ = variables_;
+    loaded_ = controlState();
 }
 
 void CGeneralForm::SSTab1_Click() { setCaptions(TabCaptionTable(controls_.tabs->currentIndex())); }
@@ -116,15 +118,13 @@ void CGeneralForm::Option5_Click(int index) {
 }
 
 void CGeneralForm::cmdOK_Click() {
-    const GeneralControlState state = controlState();
-    if (const std::optional<UnwritableField> field = FindUnwritableQuote(state)) {
-        refuseUnwritableQuote(*field);
+    const GeneralCommitOutcome outcome = CommitGeneral(info_, {loadedFrom_, loaded_, controlState()});
+    if (outcome.unwritable) {
+        refuseUnwritableQuote(*outcome.unwritable);
         return;
     }
-    const CommitOutcome outcome =
-        CommitVariables(GeneLispPath(info_), BrimoIniPath(info_), kSection, ComposeGeneralCommit(state));
     if (!outcome.ok) {
-        ReportCommitFailureAndEnd(navigator_, outcome);
+        ReportCommitFailure(navigator_, outcome);
         return;
     }
     navigator_.End(0);

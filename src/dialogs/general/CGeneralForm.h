@@ -59,6 +59,8 @@ private:
     LegendTable& legends_;
     LegendFailureQuestion& legendQuestion_;
     GeneralControls controls_;
+    GeneralVariables loadedFrom_;
+    GeneralControlState loaded_;
 };
 
 } // namespace brimo

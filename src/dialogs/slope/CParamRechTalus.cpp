@@ -155,7 +155,7 @@ SlopeControlState CParamRechTalus::ControlState() const {
 void CParamRechTalus::Command1_Click() {
     const CommitOutcome outcome = CommitSlopeVariables(info_, ControlState());
     if (!outcome.ok) {
-        ReportCommitFailureAndEnd(navigator_, outcome);
+        ReportCommitFailure(navigator_, outcome);
         return;
     }
     navigator_.End(0);

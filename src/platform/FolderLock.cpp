@@ -1,0 +1,91 @@
+#include "platform/FolderLock.h"
+
+#include <QFile>
+
+#include <cerrno>
+#include <cstring>
+#include <thread>
+
+#include <fcntl.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace brimo {
+
+namespace {
+
+constexpr std::chrono::milliseconds kRetryPause{20};
+
+QString describe(int error) { return QString::fromLocal8Bit(std::strerror(error)); }
+
+// Who holds the lock, as the holder wrote it into the file.
+QString holderOf(int fd) {
+    char text[128] = {};
+    const ssize_t n = ::pread(fd, text, sizeof text - 1, 0);
+    const QString holder = QString::fromLocal8Bit(text, n > 0 ? n : 0).trimmed();
+    return holder.isEmpty() ? QStringLiteral("another program holds the lock")
+                            : QStringLiteral("process %1 holds the lock").arg(holder);
+}
+
+// The file still has this name: a holder removes it on release, and a lock
+// taken on a removed file would keep nobody out.
+bool stillNamed(int fd, const QByteArray& path) {
+    struct stat opened {}, named {};
+    return ::fstat(fd, &opened) == 0 && ::stat(path.constData(), &named) == 0 && opened.st_dev == named.st_dev &&
+           opened.st_ino == named.st_ino;
+}
+
+// The folder is missing or cannot be written: no file there can be written.
+bool folderUnusable(int error) {
+    return error == ENOENT || error == ENOTDIR || error == EACCES || error == EPERM || error == EROFS;
+}
+
+} // namespace
+
+FolderLock::FolderLock(const QString& lockPath, std::chrono::milliseconds wait) : path_(lockPath) {
+    if (lockPath.isEmpty()) return; // no folder: nothing to keep apart
+    const QByteArray path = QFile::encodeName(lockPath);
+    const auto deadline = std::chrono::steady_clock::now() + wait;
+    for (;;) {
+        const int fd = ::open(path.constData(), O_RDWR | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, 0644);
+        if (fd < 0) {
+            const int error = errno;
+            state_ = folderUnusable(error) ? State::Unavailable : State::Busy;
+            why_ = QStringLiteral("the lock %1 cannot be used: %2").arg(lockPath, describe(error));
+            return;
+        }
+        if (::flock(fd, LOCK_EX | LOCK_NB) == 0) {
+            if (stillNamed(fd, path)) {
+                fd_ = fd;
+                state_ = State::Held;
+                const QByteArray me = QByteArray::number(::getpid()) + " (" + program_invocation_short_name + ")\n";
+                // A failed write loses only the holder's name; the lock holds.
+                [[maybe_unused]] const bool named =
+                    ::ftruncate(fd, 0) == 0 && ::pwrite(fd, me.constData(), me.size(), 0) == me.size();
+                return;
+            }
+            ::close(fd);
+            continue;
+        }
+        const int error = errno;
+        if (error != EWOULDBLOCK || std::chrono::steady_clock::now() >= deadline) {
+            state_ = State::Busy;
+            why_ = error == EWOULDBLOCK ? holderOf(fd) : QStringLiteral("the lock %1 cannot be taken: %2").arg(lockPath, describe(error));
+            ::close(fd);
+            return;
+        }
+        ::close(fd);
+        std::this_thread::sleep_for(kRetryPause);
+    }
+}
+
+FolderLock::~FolderLock() {
+    if (fd_ < 0) return;
+    // Removed while still held, so that a waiter that opened it sees the
+    // name gone and opens the next one.
+    ::unlink(QFile::encodeName(path_).constData());
+    ::close(fd_);
+}
+
+} // namespace brimo
