@@ -1,4 +1,5 @@
 #include "model/VariableCommit.h"
+#include "platform/CommitJournal.h"
 #include "support/ScratchPrefix.h"
 
 #include <QDir>
@@ -41,6 +42,33 @@ TEST(VariableCommit, CreatesTheProfileWhenTheFolderExists) {
     prefix.makeFolder(QStringLiteral("C:\\Var\\U"));
     ASSERT_TRUE(CommitVariables(kLisp, kIni, QStringLiteral("Brimo_Gene"), kRows).ok);
     EXPECT_EQ(prefix.read(kIni), QByteArray("[Brimo_Gene]\r\na=1\r\nb=\xe9\r\n"));
+}
+
+// A Brimo.ini kept elsewhere behind a link: written through, the link stays,
+// and a start after a kill finishes the commit beside the link's target.
+TEST(VariableCommit, WritesThroughALinkAndRecoversThroughIt) {
+    ScratchPrefix prefix;
+    const QString shared = QStringLiteral("C:\\Shared\\office.ini");
+    prefix.write(shared, "[Brimo_Gene]\r\nB=old\r\n");
+    prefix.makeFolder(QStringLiteral("C:\\Var\\U"));
+    ASSERT_TRUE(QFile::link(prefix.native(shared), prefix.native(kIni)));
+    ASSERT_TRUE(CommitVariables(kLisp, kIni, QStringLiteral("Brimo_Gene"), kRows).ok);
+    EXPECT_TRUE(QFileInfo(prefix.native(kIni)).isSymLink());
+    EXPECT_EQ(prefix.read(shared), QByteArray("[Brimo_Gene]\r\nB=\xe9\r\na=1\r\n"));
+    EXPECT_EQ(QDir(prefix.native(QStringLiteral("C:\\Shared"))).entryList(QDir::Files | QDir::Hidden),
+              QStringList({"office.ini"}));
+
+    // Killed after the journal: the staged copy lies beside the target.
+    prefix.write(shared + ".brimo-new", "new");
+    prefix.write(QStringLiteral("C:\\Var\\U\\Brimo.commit-journal"),
+                 ComposeCommitJournal({{"Brimo.ini.brimo-new", "Brimo.ini"}}));
+    InstallInfo info;
+    info.Variables = QStringLiteral("C:\\Var");
+    info.actuel = QStringLiteral("U");
+    EXPECT_EQ(RecoverInterruptedCommit(info), Recovery::RolledForward);
+    EXPECT_TRUE(QFileInfo(prefix.native(kIni)).isSymLink());
+    EXPECT_EQ(prefix.read(shared), QByteArray("new"));
+    EXPECT_FALSE(prefix.exists(shared + ".brimo-new"));
 }
 
 TEST(VariableCommit, AFailureChangesNothingAndNamesTheFile) {
