@@ -17,4 +17,12 @@ void ReportCommitFailure(Navigator& navigator, const CommitOutcome& outcome) {
     if (!outcome.busy) navigator.End(1);
 }
 
+QString UnwritableQuoteMessage(const UnwritableField& field) {
+    return QStringLiteral("Le champ « %1 » (%2) contient un guillemet (\"), que le fichier Lisp ne peut pas "
+                          "recevoir. Retirez-le, puis validez à nouveau.\r\n\r\n"
+                          "The field \"%1\" (%2) holds a double quote (\"), which the Lisp file cannot take. "
+                          "Remove it, then press OK again.")
+        .arg(field.comment, field.key);
+}
+
 } // namespace brimo

@@ -5,7 +5,7 @@
 // What the user is told when a commit cannot write its files.
 
 #include "forms/Navigator.h"
-#include "model/VariableCommit.h"
+#include "model/GeneralCommit.h"
 
 namespace brimo {
 
@@ -14,5 +14,9 @@ namespace brimo {
 // another program was writing the files, the dialog stays open instead, with
 // its edits, so that OK can be pressed again.
 void ReportCommitFailure(Navigator& navigator, const CommitOutcome& outcome);
+
+// The refusal of a field whose double quote would end its Lisp string, in
+// French and in English, naming the field.
+QString UnwritableQuoteMessage(const UnwritableField& field);
 
 } // namespace brimo

@@ -91,14 +91,6 @@ std::optional<UnwritableField> FindUnwritableQuote(const GeneralControlState& st
     return std::nullopt;
 }
 
-QString UnwritableQuoteMessage(const UnwritableField& field) {
-    return QStringLiteral("Le champ « %1 » (%2) contient un guillemet (\"), que le fichier Lisp ne peut pas "
-                          "recevoir. Retirez-le, puis validez à nouveau.\r\n\r\n"
-                          "The field \"%1\" (%2) holds a double quote (\"), which the Lisp file cannot take. "
-                          "Remove it, then press OK again.")
-        .arg(field.comment, field.key);
-}
-
 GeneralControlState MergeStoredChanges(const GeneralEdit& edit, const GeneralVariables& storedNow) {
     const GeneralControlState before = LoadedControlState(edit.loadedFrom);
     const GeneralControlState after = LoadedControlState(storedNow);
@@ -109,18 +101,24 @@ GeneralControlState MergeStoredChanges(const GeneralEdit& edit, const GeneralVar
     return merged;
 }
 
-GeneralCommitOutcome CommitGeneral(const InstallInfo& info, const GeneralEdit& edit) {
-    const UserFolderLock lock(BrimoIniPath(info));
-    CommitPlan plan(lock);
+PlannedGeneralCommit PlanGeneralCommit(CommitPlan& plan, const InstallInfo& info, const GeneralEdit& edit) {
     GeneralVariables storedNow;
     LoadGeneralVariables(plan.ini(), storedNow);
     const GeneralControlState merged = MergeStoredChanges(edit, storedNow);
+    if (std::optional<UnwritableField> field = FindUnwritableQuote(merged)) return {{}, field};
+    const QList<CommittedRow> rows = ComposeGeneralCommit(merged);
+    plan.add(GeneLispPath(info), QLatin1String(kGeneralSection), rows);
+    return {rows, std::nullopt};
+}
+
+GeneralCommitOutcome CommitGeneral(const InstallInfo& info, const GeneralEdit& edit) {
+    const UserFolderLock lock(BrimoIniPath(info));
+    CommitPlan plan(lock);
     GeneralCommitOutcome outcome;
-    if ((outcome.unwritable = FindUnwritableQuote(merged))) {
+    if ((outcome.unwritable = PlanGeneralCommit(plan, info, edit).unwritable)) {
         outcome.ok = false;
         return outcome;
     }
-    plan.add(GeneLispPath(info), QLatin1String(kGeneralSection), ComposeGeneralCommit(merged));
     static_cast<CommitOutcome&>(outcome) = plan.write();
     return outcome;
 }

@@ -133,9 +133,6 @@ struct UnwritableField {
 // The first such field in catalogue order, or nothing.
 std::optional<UnwritableField> FindUnwritableQuote(const GeneralControlState& state);
 
-// The refusal, in French and in English, naming the field.
-QString UnwritableQuoteMessage(const UnwritableField& field);
-
 // The general dialog at its OK: the values it loaded, its controls right
 // after the load, and its controls now.
 struct GeneralEdit {
@@ -150,6 +147,18 @@ struct GeneralEdit {
 // other control keeps what it holds. Where nothing changed on the disk, this
 // is the controls as they stand.
 GeneralControlState MergeStoredChanges(const GeneralEdit& edit, const GeneralVariables& storedNow);
+
+// What the general commit adds to a plan: its rows, or the field that makes
+// OK refuse it (and nothing added).
+struct PlannedGeneralCommit {
+    QList<CommittedRow> rows;
+    std::optional<UnwritableField> unwritable;
+};
+
+// Adds the general dialog's OK to `plan`, from Brimo.ini as the plan read it:
+// the controls merged with what is stored now, then Brimo_Gene.lsp and
+// section Brimo_Gene.
+PlannedGeneralCommit PlanGeneralCommit(CommitPlan& plan, const InstallInfo& info, const GeneralEdit& edit);
 
 struct GeneralCommitOutcome : CommitOutcome {
     std::optional<UnwritableField> unwritable; // refused before anything was written

@@ -38,6 +38,10 @@ constexpr SlopeRow kSlopeRows[] = {
     {Always, "QZ_fact_flch", Numeric, nullptr, 5, ") ;Facteur d'échelle des flèches de direction", "x_QZ_fact_flch"},
 };
 
+bool ofKey(const SlopeRow& row, QAnyStringView key) {
+    return QAnyStringView::compare(key, QLatin1String(row.key), Qt::CaseInsensitive) == 0;
+}
+
 bool holds(RowCondition condition, const SlopeControlState& state) {
     switch (condition) {
     case Check1Ticked: return state.check1Ticked;
@@ -49,13 +53,59 @@ bool holds(RowCondition condition, const SlopeControlState& state) {
     return true;
 }
 
+QString valueOf(const SlopeRow& row, const SlopeControlState& state) {
+    return row.fixedValue ? QString::fromLatin1(row.fixedValue) : state.texts[row.textIndex];
+}
+
+// Makes the condition of a row hold, and that of its pair fail.
+void makeHold(RowCondition condition, SlopeControlState& state) {
+    switch (condition) {
+    case Check1Ticked:
+    case Check2Ticked:
+        state.check1Ticked = condition == Check1Ticked;
+        state.check2Ticked = condition == Check2Ticked;
+        break;
+    case Option1Chosen:
+    case Option2Chosen: state.option2Chosen = condition == Option2Chosen; break;
+    case Always: break;
+    }
+}
+
 } // namespace
+
+QStringList SlopeKeys() {
+    QStringList keys;
+    for (const SlopeRow& row : kSlopeRows)
+        if (!keys.contains(QLatin1String(row.key))) keys.append(QLatin1String(row.key));
+    return keys;
+}
+
+QStringList SlopeChoices(QAnyStringView key) {
+    QStringList choices;
+    for (const SlopeRow& row : kSlopeRows)
+        if (ofKey(row, key) && row.fixedValue) choices.append(QLatin1String(row.fixedValue));
+    return choices;
+}
+
+QString SlopeValue(const SlopeControlState& state, QAnyStringView key) {
+    for (const SlopeRow& row : kSlopeRows)
+        if (ofKey(row, key) && holds(row.condition, state)) return valueOf(row, state);
+    return {};
+}
+
+void SetSlopeValue(SlopeControlState& state, QAnyStringView key, const QString& value) {
+    for (const SlopeRow& row : kSlopeRows) {
+        if (!ofKey(row, key)) continue;
+        if (!row.fixedValue) state.texts[row.textIndex] = value;
+        else if (value == QLatin1String(row.fixedValue)) makeHold(row.condition, state);
+    }
+}
 
 QList<CommittedRow> SlopeCommitRows(const SlopeControlState& state) {
     QList<CommittedRow> rows;
     for (const SlopeRow& row : kSlopeRows) {
         if (!holds(row.condition, state)) continue;
-        const QString value = row.fixedValue ? QString::fromLatin1(row.fixedValue) : state.texts[row.textIndex];
+        const QString value = valueOf(row, state);
         const QString name = QString::fromLatin1(row.lispName);
         rows.append({ValueLine(row.form, name, value, QString::fromUtf8(row.closing)),
                      QString::fromLatin1(row.key), value});
@@ -63,9 +113,17 @@ QList<CommittedRow> SlopeCommitRows(const SlopeControlState& state) {
     return rows;
 }
 
+QList<CommittedRow> PlanSlopeCommit(CommitPlan& plan, const InstallInfo& info, const SlopeControlState& state) {
+    const QList<CommittedRow> rows = SlopeCommitRows(state);
+    plan.add(TalusLispPath(info), QLatin1String(kSlopeSection), rows);
+    return rows;
+}
+
 CommitOutcome CommitSlopeVariables(const InstallInfo& info, const SlopeControlState& state) {
-    return CommitVariables(TalusLispPath(info), BrimoIniPath(info), QStringLiteral("Brimo_Talus"),
-                           SlopeCommitRows(state));
+    const UserFolderLock lock(BrimoIniPath(info));
+    CommitPlan plan(lock);
+    PlanSlopeCommit(plan, info, state);
+    return plan.write();
 }
 
 } // namespace brimo

@@ -10,11 +10,15 @@
 #include "model/VariableCommit.h"
 
 #include <QList>
+#include <QStringList>
 #include <QString>
 
 #include <array>
 
 namespace brimo {
+
+// The section of Brimo.ini that the slope dialog writes.
+inline constexpr char kSlopeSection[] = "Brimo_Talus";
 
 // The controls of CParamRechTalus as the commit reads them.
 struct SlopeControlState {
@@ -27,8 +31,24 @@ struct SlopeControlState {
 // The rows whose condition holds, in the order they are written.
 QList<CommittedRow> SlopeCommitRows(const SlopeControlState& state);
 
+// The keys of the rows, each once, in the order of the rows.
+QStringList SlopeKeys();
+// The values of a key written by a row with a condition (x_QZ_asp_dess:
+// "polyligne", "points"), in the order of the rows; none for a field's key.
+QStringList SlopeChoices(QAnyStringView key);
+// The value that the controls give a key: that of its row whose condition
+// holds, or the field's text; empty when none holds.
+QString SlopeValue(const SlopeControlState& state, QAnyStringView key);
+// Sets the controls so that the key takes `value`: one of its choices
+// ticks or chooses the control of that row (and clears its pair), a field
+// takes the text.
+void SetSlopeValue(SlopeControlState& state, QAnyStringView key, const QString& value);
+
+// Adds the rows to `plan`: Brimo_Talus.lsp and section Brimo_Talus.
+QList<CommittedRow> PlanSlopeCommit(CommitPlan& plan, const InstallInfo& info, const SlopeControlState& state);
+
 // Writes those rows to Brimo_Talus.lsp and section Brimo_Talus of Brimo.ini,
-// all or nothing.
+// all or nothing, under the lock of the user's folder.
 CommitOutcome CommitSlopeVariables(const InstallInfo& info, const SlopeControlState& state);
 
 } // namespace brimo

@@ -76,17 +76,7 @@ void ApplyEdits(GeneralControlState& state, const QList<Edit>& edits) {
 }
 
 void ApplyEdits(SlopeControlState& state, const QList<Edit>& edits) {
-    for (const Edit& edit : edits) {
-        const QString& control = edit.key->control;
-        if (control == QLatin1String("Check1")) {
-            state.check1Ticked = edit.value == QLatin1String("polyligne");
-            state.check2Ticked = !state.check1Ticked;
-        } else if (control == QLatin1String("Option1")) {
-            state.option2Chosen = edit.value == QLatin1String("3");
-        } else {
-            state.texts[static_cast<std::size_t>(control.mid(4).toInt() - 1)] = edit.value; // Text1 to Text6
-        }
-    }
+    for (const Edit& edit : edits) SetSlopeValue(state, edit.key->key, edit.value);
 }
 
 } // namespace brimo

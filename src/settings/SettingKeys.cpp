@@ -2,6 +2,7 @@
 
 #include "model/GeneralCommit.h"
 #include "model/GeneralVariableCatalogue.h"
+#include "model/SlopeCommit.h"
 
 namespace brimo {
 
@@ -38,17 +39,16 @@ QList<SettingKey> generalKeys() {
     return keys;
 }
 
-// The slope keys in the order of the commit: the drawing's look (Check1 or
-// Check2), its kind (Option1 or Option2), then the six fields.
+// The slope keys in the order of the commit: a key with choices is set by a
+// pair of controls, any other by a field with its rule.
 QList<SettingKey> slopeKeys() {
-    QList<SettingKey> keys = {
-        {QStringLiteral("x_QZ_asp_dess"), QStringLiteral("Check1"), KeyKind::Choice, nullptr,
-         {QStringLiteral("polyligne"), QStringLiteral("points")}},
-        {QStringLiteral("x_QZ_des_tal"), QStringLiteral("Option1"), KeyKind::Choice, nullptr,
-         {QStringLiteral("2"), QStringLiteral("3")}},
-    };
-    for (const FieldRule& rule : SlopeFieldRules())
-        keys.append({QString::fromLatin1(rule.key), QString::fromLatin1(rule.control), KeyKind::RuleText, &rule, {}});
+    QList<SettingKey> keys;
+    for (const QString& name : SlopeKeys()) {
+        SettingKey key{name, QString(), KeyKind::Choice, nullptr, SlopeChoices(name)};
+        for (const FieldRule& rule : SlopeFieldRules())
+            if (name == QLatin1String(rule.key)) key = {name, QLatin1String(rule.control), KeyKind::RuleText, &rule, {}};
+        keys.append(key);
+    }
     return keys;
 }
 
@@ -67,7 +67,7 @@ const SettingKey* FindSettingKey(SettingSection section, const QString& name) {
 }
 
 QString SectionName(SettingSection section) {
-    return section == SettingSection::General ? QStringLiteral("Brimo_Gene") : QStringLiteral("Brimo_Talus");
+    return QLatin1String(section == SettingSection::General ? kGeneralSection : kSlopeSection);
 }
 
 QString DialogName(SettingSection section) {

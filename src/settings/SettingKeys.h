@@ -25,7 +25,7 @@ enum class KeyKind {
 
 struct SettingKey {
     QString key;     // as the load spells it
-    QString control; // the field, the option group or the check box
+    QString control; // the general dialog's field, option group or check box; the slope dialog's field
     KeyKind kind;
     const FieldRule* rule = nullptr; // RuleText only
     QStringList choices;             // Choice and Flag

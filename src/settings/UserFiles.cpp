@@ -9,14 +9,6 @@ namespace brimo {
 
 namespace {
 
-// The value of a slope key at the dialog's opening.
-QString slopeOpeningValue(const SettingKey& key) {
-    if (key.control == QLatin1String("Check1"))
-        return QLatin1String(kSlopeOpeningCheck1 ? "polyligne" : kSlopeOpeningCheck2 ? "points" : "");
-    if (key.control == QLatin1String("Option1")) return QLatin1String(kSlopeOpeningOption2 ? "3" : "2");
-    return QString::fromLatin1(kSlopeOpeningTexts[static_cast<std::size_t>(key.control.mid(4).toInt() - 1)]);
-}
-
 } // namespace
 
 UserFiles::UserFiles(const std::optional<QString>& user) {
@@ -37,32 +29,29 @@ QList<ShownValue> UserFiles::values(SettingSection section) const {
         const QString stored = storedText(section, key.key);
         const bool isStored = !stored.isEmpty();
         if (section == SettingSection::General) shown.append({key.key, variables_.text(key.key), isStored});
-        else shown.append({key.key, isStored ? stored : slopeOpeningValue(key), isStored});
+        else shown.append({key.key, isStored ? stored : SlopeValue(SlopeOpeningState(), key.key), isStored});
     }
     return shown;
 }
 
-std::optional<QList<CommittedRow>> UserFiles::commitRows(SettingSection section, const QList<Edit>& edits,
-                                                         QString* error) const {
+std::optional<QList<CommittedRow>> UserFiles::planCommit(CommitPlan& plan, SettingSection section,
+                                                         const QList<Edit>& edits, QString* error) const {
     if (section == SettingSection::Slope) {
         SlopeControlState state = SlopeOpeningState();
         ApplyEdits(state, edits);
-        return SlopeCommitRows(state);
+        return PlanSlopeCommit(plan, info_, state);
     }
-    GeneralControlState state = LoadedControlState(variables_);
-    ApplyEdits(state, edits);
-    if (const std::optional<UnwritableField> field = FindUnwritableQuote(state)) {
+    GeneralEdit edit{variables_, LoadedControlState(variables_), {}};
+    edit.edited = edit.loaded;
+    ApplyEdits(edit.edited, edits);
+    PlannedGeneralCommit planned = PlanGeneralCommit(plan, info_, edit);
+    if (const std::optional<UnwritableField>& field = planned.unwritable) {
         *error = QStringLiteral("%1: the stored text holds a double quote, which would end its Lisp string; "
                                 "give the key a value")
                      .arg(FindSettingKey(section, field->key) ? FindSettingKey(section, field->key)->key : field->key);
         return std::nullopt;
     }
-    return ComposeGeneralCommit(state);
-}
-
-void UserFiles::addTo(CommitPlan& plan, SettingSection section, const QList<CommittedRow>& rows) const {
-    const QString lisp = section == SettingSection::General ? GeneLispPath(info_) : TalusLispPath(info_);
-    plan.add(lisp, SectionName(section), rows);
+    return planned.rows;
 }
 
 } // namespace brimo

@@ -40,15 +40,13 @@ public:
     // The text stored for a key now, empty when there is none.
     QString storedText(SettingSection section, const QString& key) const;
 
-    // The rows of the dialog's OK after `edits`, from the controls as the
-    // dialog opens: the general dialog with the stored values, the slope
-    // dialog with its design. Nothing, with `error`, when a stored text holds
-    // a double quote that the general dialog's OK would refuse.
-    std::optional<QList<CommittedRow>> commitRows(SettingSection section, const QList<Edit>& edits,
+    // Adds to `plan` the dialog's OK after `edits`, from the controls as the
+    // dialog opens (the general dialog with the stored values, the slope
+    // dialog with its design), and gives its rows. Nothing, with `error`,
+    // when a stored text holds a double quote that the general dialog's OK
+    // would refuse.
+    std::optional<QList<CommittedRow>> planCommit(CommitPlan& plan, SettingSection section, const QList<Edit>& edits,
                                                   QString* error) const;
-
-    // Adds that commit to `plan`.
-    void addTo(CommitPlan& plan, SettingSection section, const QList<CommittedRow>& rows) const;
 
 private:
     InstallInfo info_;

@@ -84,7 +84,7 @@ bool commitOnPrefix(const Options& options, const SectionEdits& edits, const QSt
     QString report;
     for (const auto& [section, sectionEdits] : edits) {
         QString error;
-        const std::optional<QList<CommittedRow>> rows = user.commitRows(section, sectionEdits, &error);
+        const std::optional<QList<CommittedRow>> rows = user.planCommit(plan, section, sectionEdits, &error);
         if (!rows) {
             Complain(QStringLiteral("%1: %2").arg(prefix, error));
             return false;
@@ -92,7 +92,6 @@ bool commitOnPrefix(const Options& options, const SectionEdits& edits, const QSt
         for (const CommittedRow& row : *rows)
             if (const QString before = user.storedText(section, row.key); before != row.value)
                 report += QStringLiteral("  %1: \"%2\" -> \"%3\"\n").arg(row.key, before, row.value);
-        user.addTo(plan, section, *rows);
     }
     const QStringList files = plan.changedFiles();
     if (files.isEmpty()) {

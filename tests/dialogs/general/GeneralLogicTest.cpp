@@ -2,6 +2,7 @@
 // options, the quote that OK refuses, the file dialog's filter and answer.
 #include "model/GeneralLoad.h"
 #include "dialogs/general/ProgramLocations.h"
+#include "forms/CommitFailureReport.h"
 #include "model/GeneralCommit.h"
 #include "support/ScratchPrefix.h"
 
