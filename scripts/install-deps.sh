@@ -9,7 +9,7 @@ packages=(
   libgtest-dev libgmock-dev libbenchmark-dev
   xvfb xauth xdotool x11-utils imagemagick fonts-dejavu-core fonts-liberation
   wine64 g++-mingw-w64-x86-64 python3
-  lintian appstream desktop-file-utils
+  lintian appstream desktop-file-utils bash-completion
 )
 
 missing=()

@@ -7,6 +7,7 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <algorithm>
 #include <cstdio>
 
 namespace brimo {
@@ -19,6 +20,32 @@ QString journalBeside(const QString& nativeIni) {
 }
 QString lockBeside(const QString& nativeIni) {
     return nativeIni.isEmpty() ? QString() : nativeIni + QStringLiteral(".lock");
+}
+
+// Records the files as they stand in the history, then writes them all
+// together; a write that fails takes its entry back.
+CommitOutcome writeWithHistory(const QString& iniPath, const QString& nativeIni, const QList<FileToWrite>& planned,
+                               const QString& what, const QByteArray& iniBefore, const QByteArray& iniAfter) {
+    HistoryEntry entry{0, QDateTime::currentDateTimeUtc(), CommitProgramName(), what,
+                       ChangedKeys(iniBefore, iniAfter), {}};
+    bool changes = false;
+    for (const FileToWrite& file : planned) {
+        const std::optional<QByteArray> before = ReadWholeFile(file.nativePath);
+        changes = changes || before != file.bytes;
+        entry.files.append({QFileInfo(file.nativePath).fileName(), before});
+    }
+    std::optional<int> recorded;
+    if (changes) {
+        QString error;
+        recorded = RecordHistory(nativeIni, entry, &error);
+        if (!recorded) return {false, iniPath, error};
+    }
+    QString failed, reason;
+    if (!WriteFilesTogether(planned, journalBeside(nativeIni), &failed, &reason)) {
+        if (recorded) DropHistoryEntry(nativeIni, *recorded);
+        return {false, failed == nativeIni ? iniPath : failed, reason};
+    }
+    return {};
 }
 
 } // namespace
@@ -44,7 +71,10 @@ CommitPlan::CommitPlan(const UserFolderLock& lock)
     QString error;
     auto bytes = ReadWholeFile(nativeIni_, &error);
     if (!bytes) readFailure_ = {false, iniPath_, error};
-    else ini_ = ProfileDocument(std::move(*bytes));
+    else {
+        iniAsRead_ = *bytes;
+        ini_ = ProfileDocument(std::move(*bytes));
+    }
 }
 
 void CommitPlan::add(const QString& lispPath, const QString& section, const QList<CommittedRow>& rows) {
@@ -78,13 +108,10 @@ CommitOutcome CommitPlan::write() const {
     if (!readFailure_.ok) return readFailure_;
     QList<FileToWrite> planned;
     for (const File& file : files()) planned.append(file.planned);
-    QString failed, reason;
-    if (!WriteFilesTogether(planned, journalBeside(nativeIni_), &failed, &reason)) {
-        for (const File& file : files())
-            if (file.planned.nativePath == failed) return {false, file.windowsPath, reason};
-        return {false, failed, reason};
-    }
-    return {};
+    CommitOutcome outcome = writeWithHistory(iniPath_, nativeIni_, planned, what_, iniAsRead_, ini_.bytes());
+    for (const File& file : files())
+        if (!outcome.ok && file.planned.nativePath == outcome.file) outcome.file = file.windowsPath;
+    return outcome;
 }
 
 CommitOutcome CommitVariables(const QString& lispPath, const QString& iniPath, const QString& section,
@@ -93,6 +120,31 @@ CommitOutcome CommitVariables(const QString& lispPath, const QString& iniPath, c
     CommitPlan plan(lock);
     plan.add(lispPath, section, rows);
     return plan.write();
+}
+
+CommitOutcome RestoreHistoryEntry(const UserFolderLock& lock, int number, HistoryEntry* restored) {
+    if (lock.busy()) return lock.busyOutcome();
+    const QString nativeIni = ToNativePath(lock.iniPath());
+    const QList<HistoryEntry> history = ReadHistory(nativeIni);
+    const auto entry = std::find_if(history.rbegin(), history.rend(),
+                                    [&](const HistoryEntry& e) { return number == 0 || e.number == number; });
+    if (entry == history.rend())
+        return {false, HistoryFolder(nativeIni),
+                number ? QStringLiteral("no entry %1").arg(number) : QStringLiteral("no entry")};
+    if (restored) *restored = *entry;
+    // Each file that existed before that commit gets its bytes back; one that
+    // did not is left as it is.
+    const QString folder = QFileInfo(nativeIni).absolutePath() + QLatin1Char('/');
+    QList<FileToWrite> planned;
+    QByteArray iniAfter;
+    for (const KeptFile& file : entry->files) {
+        if (!file.bytes) continue;
+        planned.append({folder + file.name, *file.bytes});
+        if (folder + file.name == nativeIni) iniAfter = *file.bytes;
+    }
+    if (iniAfter.isNull()) iniAfter = ReadWholeFile(nativeIni).value_or(QByteArray());
+    return writeWithHistory(lock.iniPath(), nativeIni, planned, QStringLiteral("restore %1").arg(entry->number),
+                            ReadWholeFile(nativeIni).value_or(QByteArray()), iniAfter);
 }
 
 Recovery RecoverInterruptedCommit(const InstallInfo& info) { return UserFolderLock(BrimoIniPath(info)).recovery(); }

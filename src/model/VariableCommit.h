@@ -10,6 +10,7 @@
 // these files at once: every commit, and every recovery of one, holds the
 // lock of the folder of Brimo.ini.
 
+#include "model/CommitHistory.h"
 #include "model/InstallInfo.h"
 #include "platform/FileAccess.h"
 #include "platform/FolderLock.h"
@@ -71,8 +72,14 @@ public:
 
     void add(const QString& lispPath, const QString& section, const QList<CommittedRow>& rows);
 
+    // What the history calls this commit ("OK" unless told).
+    void setWhat(const QString& what) { what_ = what; }
+
     // The Windows paths of the files whose bytes would change.
     QStringList changedFiles() const;
+    // Writes every file. When some file changes, the files as they were go
+    // first into the history of the folder (model/CommitHistory.h), with
+    // the name of this program and the keys that change.
     CommitOutcome write() const;
 
 private:
@@ -82,8 +89,9 @@ private:
     };
     QList<File> files() const;
 
-    QString iniPath_, nativeIni_;
+    QString iniPath_, nativeIni_, what_ = QStringLiteral("OK");
     CommitOutcome readFailure_;
+    QByteArray iniAsRead_;
     ProfileDocument ini_;
     QList<File> lispFiles_;
 };
@@ -91,6 +99,11 @@ private:
 // One section's rows, written under the lock of the folder.
 CommitOutcome CommitVariables(const QString& lispPath, const QString& iniPath, const QString& section,
                               const QList<CommittedRow>& rows);
+
+// Brings back the files of history entry `number` (0: the last one) in the
+// folder of the lock, as one commit that the history records in turn
+// ("restore N"). `restored` gets the entry brought back.
+CommitOutcome RestoreHistoryEntry(const UserFolderLock& lock, int number, HistoryEntry* restored = nullptr);
 
 // Finishes or undoes a commit that a kill or a power loss cut off in the
 // folder of Brimo.ini, under its lock (left alone when another program keeps

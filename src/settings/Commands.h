@@ -10,24 +10,47 @@
 
 namespace brimo {
 
-// Exit statuses, so that a configuration tool can run a command again and
-// again and tell what it did.
-enum ExitStatus : int {
-    kAlreadySo = 0, // done; nothing needed changing (or get, export done)
-    kChanged = 1,   // done; some user's files changed (with --check: would change)
-    kRefused = 2,   // a bad command line or value; nothing written anywhere
-    kFailed = 3,    // some prefix failed; the others went on
+// What a command did, from which main() gives the exit status.
+struct RunResult {
+    bool refused = false; // a bad command line or value: nothing written anywhere
+    int changed = 0;      // prefixes (or files) changed; with --check, that would change
+    int failed = 0;       // prefixes that failed; the others went on
 };
 
-int RunGet(const Options& options);
-int RunExport(const Options& options);
-int RunSet(const Options& options);
-int RunApply(const Options& options);
+// Exit statuses. By default every success is 0, changed or not, so that
+// `set -e` scripts, Makefiles and configuration tools take a change for a
+// success; a refusal and a failure stay apart.
+enum ExitStatus : int {
+    kSucceeded = 0,
+    kRefused = 2,
+    kFailed = 3,
+};
+
+// With --detailed-exitcodes, Puppet's convention: 0 no change, 2 changes,
+// 4 failures, 6 changes and failures; 1 when the command was refused and
+// nothing was tried.
+enum DetailedExitStatus : int {
+    kDetailedNoChange = 0,
+    kDetailedRefused = 1,
+    kDetailedChanges = 2,
+    kDetailedFailures = 4,
+};
+
+int ExitStatusOf(const RunResult& result, bool detailed);
+
+RunResult RunGet(const Options& options);
+RunResult RunExport(const Options& options);
+RunResult RunSet(const Options& options);
+RunResult RunApply(const Options& options);
+RunResult RunHistory(const Options& options);
+RunResult RunRestore(const Options& options);
 
 // Runs `each` with every prefix of the options in force in turn (or once, on
 // the environment's), after testing that the prefix is a folder; `each` gets
-// the prefix and says whether it succeeded. Returns the number of failures.
-int ForEachPrefix(const Options& options, const std::function<bool(const QString& prefix)>& each);
+// the prefix and says whether it succeeded; `missing`, when given, is told
+// of a prefix that is no folder. Returns the number of failures.
+int ForEachPrefix(const Options& options, const std::function<bool(const QString& prefix)>& each,
+                  const std::function<void(const QString& prefix, const QString& error)>& missing = {});
 
 // Text on the standard output and the standard error, in UTF-8.
 void Print(const QString& text);

@@ -1,5 +1,7 @@
 #include "settings/Edits.h"
 
+#include "model/GeneralLoad.h"
+
 namespace brimo {
 
 namespace {
@@ -18,8 +20,11 @@ bool unwritableQuote(const SettingKey& key, const QString& text) {
 
 std::optional<QString> CheckedValue(const SettingKey& key, const QString& given, QString* error) {
     switch (key.kind) {
-    case KeyKind::Choice:
     case KeyKind::Flag:
+        // Also as the dialog loads a stored state: 2 (grey) counts as ticked.
+        if (StoredCheckState(given)) return given;
+        [[fallthrough]];
+    case KeyKind::Choice:
         if (key.choices.contains(given)) return given;
         *error = QStringLiteral("%1: %2 is none of %3").arg(key.key, quoted(given), key.choices.join(QStringLiteral(", ")));
         return std::nullopt;
@@ -63,7 +68,7 @@ void ApplyEdits(GeneralControlState& state, const QList<Edit>& edits) {
         switch (edit.key->kind) {
         case KeyKind::RuleText:
         case KeyKind::FreeText: state.texts.insert(control, edit.value); break;
-        case KeyKind::Flag: state.checkStates.insert(control, edit.value.toInt()); break;
+        case KeyKind::Flag: state.checkStates.insert(control, StoredCheckState(edit.value).value_or(0)); break;
         case KeyKind::Choice:
             // One button of a group is selected: the one whose test gives the value.
             erase_if(state.selectedOptions, [&](const QString& button) { return button.startsWith(control + QLatin1Char('(')); });

@@ -2,8 +2,8 @@
 // Settings tool (src/settings): brimo-settings, the dialogs' settings from the
 // command line; it sees platform and model, and nothing sees it.
 //
-// The command line: a command, its arguments and the options, in any order
-// behind the command; "--" ends the options.
+// The command line, read by QCommandLineParser: a command, its arguments and
+// the options, in any order behind the command; "--" ends the options.
 
 #include "settings/SettingKeys.h"
 
@@ -14,17 +14,23 @@
 namespace brimo {
 
 struct Options {
-    QString command;                      // get, set, export, apply, help, version
-    QStringList arguments;                // keys, KEY=VALUE, or the file
+    QString command;                      // get, set, export, apply, history, restore, help, version
+    QStringList arguments;                // keys, KEY=VALUE, the file, or the entry
     SettingSection section = SettingSection::General;
     bool json = false;
     bool origin = false;
     bool check = false;
+    bool detailedExitCodes = false;       // Puppet's --detailed-exitcodes
+    bool helpAll = false;                 // --help-all: the usage and every option
     QStringList prefixes;                 // empty: the environment's
     std::optional<QString> user;
 };
 
-// The options, or nothing with `error` saying what is wrong.
+// The options of `arguments` (without the program's name), or nothing with
+// `error` saying what is wrong.
 std::optional<Options> ParseOptions(const QStringList& arguments, QString* error);
+
+// Every option with its description, as QCommandLineParser lays them out.
+QString OptionList();
 
 } // namespace brimo

@@ -15,7 +15,8 @@ void Complain(const QString& text) {
     std::fputs(("brimo-settings: " + text + QLatin1Char('\n')).toUtf8().constData(), stderr);
 }
 
-int ForEachPrefix(const Options& options, const std::function<bool(const QString& prefix)>& each) {
+int ForEachPrefix(const Options& options, const std::function<bool(const QString& prefix)>& each,
+                  const std::function<void(const QString& prefix, const QString& error)>& missing) {
     // No --prefix: the one of the environment, as the program finds it.
     const QStringList prefixes = options.prefixes.isEmpty() ? QStringList{QString()} : options.prefixes;
     int failures = 0;
@@ -24,6 +25,7 @@ int ForEachPrefix(const Options& options, const std::function<bool(const QString
         const QString inForce = WinePrefix();
         if (!QFileInfo(inForce).isDir()) {
             Complain(QStringLiteral("%1: no such folder").arg(inForce));
+            if (missing) missing(inForce, QStringLiteral("no such folder"));
             ++failures;
         } else if (!each(inForce)) {
             ++failures;
@@ -31,6 +33,17 @@ int ForEachPrefix(const Options& options, const std::function<bool(const QString
     }
     SetWinePrefix(QString());
     return failures;
+}
+
+} // namespace brimo
+
+namespace brimo {
+
+int ExitStatusOf(const RunResult& result, bool detailed) {
+    if (detailed)
+        return result.refused ? kDetailedRefused
+                              : (result.changed ? kDetailedChanges : 0) | (result.failed ? kDetailedFailures : 0);
+    return result.refused ? kRefused : result.failed ? kFailed : kSucceeded;
 }
 
 } // namespace brimo

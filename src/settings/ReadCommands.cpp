@@ -5,6 +5,7 @@
 
 #include "platform/Cp1252.h"
 #include "platform/FileAccess.h"
+#include "platform/WindowsPaths.h"
 
 #include <QJsonArray>
 #include <QJsonDocument>
@@ -46,11 +47,11 @@ QJsonObject jsonOf(const QString& prefix, const UserFiles& user, SettingSection 
 
 } // namespace
 
-int RunGet(const Options& options) {
+RunResult RunGet(const Options& options) {
     for (const QString& key : options.arguments)
         if (!FindSettingKey(options.section, key)) {
             Complain(QStringLiteral("%1: no key of the %2 settings").arg(key, DialogName(options.section)));
-            return kRefused;
+            return {true};
         }
     QJsonArray json;
     const int failures = ForEachPrefix(options, [&](const QString& prefix) {
@@ -67,38 +68,75 @@ int RunGet(const Options& options) {
         return true;
     });
     if (options.json) Print(QString::fromUtf8(QJsonDocument(json).toJson()));
-    return failures ? kFailed : kAlreadySo;
+    return {false, 0, failures};
 }
 
-int RunExport(const Options& options) {
+RunResult RunExport(const Options& options) {
     if (options.arguments.size() != 1 || options.prefixes.size() > 1) {
         Complain(QStringLiteral("export takes one FILE, and at most one --prefix"));
-        return kRefused;
+        return {true};
     }
     ProfileDocument profile;
     const int failures = ForEachPrefix(options, [&](const QString&) {
         const UserFiles user(options.user);
         for (SettingSection section : kBothSections) {
             QList<ProfileDocument::KeyValue> keys;
-            for (const ShownValue& value : user.values(section)) keys.append({toCp1252(value.key), toCp1252(value.value)});
+            for (const ShownValue& value : user.committedValues(section))
+                keys.append({toCp1252(value.key), toCp1252(value.value)});
             profile.setStrings(toCp1252(SectionName(section)), keys);
         }
         return true;
     });
-    if (failures) return kFailed;
+    if (failures) return {false, 0, failures};
 
     const QString& file = options.arguments.first();
     if (file == QLatin1String("-")) {
         std::fwrite(profile.bytes().constData(), 1, static_cast<size_t>(profile.bytes().size()), stdout);
-        return kAlreadySo;
+        return {};
     }
-    if (ReadWholeFile(file) == profile.bytes()) return kAlreadySo;
+    if (ReadWholeFile(file) == profile.bytes()) return {};
     QString error;
     if (!WriteWholeFile(file, profile.bytes(), &error)) {
         Complain(QStringLiteral("%1: %2").arg(file, error));
-        return kFailed;
+        return {false, 0, 1};
     }
-    return kChanged;
+    return {false, 1, 0};
+}
+
+RunResult RunHistory(const Options& options) {
+    if (!options.arguments.isEmpty()) {
+        Complain(QStringLiteral("history takes no argument"));
+        return {true};
+    }
+    QJsonArray json;
+    const int failures = ForEachPrefix(options, [&](const QString& prefix) {
+        const UserFiles user(options.user);
+        const QList<HistoryEntry> history = ReadHistory(ToNativePath(user.lock().iniPath()));
+        if (!options.json) {
+            if (options.prefixes.size() > 1) Print(QStringLiteral("# %1\n").arg(prefix));
+            for (const HistoryEntry& entry : history)
+                Print(QStringLiteral("%1\t%2\t%3\t%4\t%5\n")
+                          .arg(entry.number)
+                          .arg(entry.when.toLocalTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")), entry.program,
+                               entry.what, entry.keys.join(QLatin1Char(' '))));
+            return true;
+        }
+        QJsonArray entries;
+        for (const HistoryEntry& entry : history) {
+            QStringList files;
+            for (const KeptFile& file : entry.files) files.append(file.name);
+            entries.append(QJsonObject{{"number", entry.number},
+                                       {"when", entry.when.toString(Qt::ISODate)},
+                                       {"program", entry.program},
+                                       {"what", entry.what},
+                                       {"keys", QJsonArray::fromStringList(entry.keys)},
+                                       {"files", QJsonArray::fromStringList(files)}});
+        }
+        json.append(QJsonObject{{"prefix", prefix}, {"user", user.info().actuel}, {"entries", entries}});
+        return true;
+    });
+    if (options.json) Print(QString::fromUtf8(QJsonDocument(json).toJson()));
+    return {false, 0, failures};
 }
 
 } // namespace brimo

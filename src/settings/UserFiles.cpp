@@ -7,10 +7,6 @@
 
 namespace brimo {
 
-namespace {
-
-} // namespace
-
 UserFiles::UserFiles(const std::optional<QString>& user) {
     LoadInstallInfo(info_);
     if (user) info_.actuel = *user == QLatin1String("Default") ? QString() : *user;
@@ -29,9 +25,18 @@ QList<ShownValue> UserFiles::values(SettingSection section) const {
         const QString stored = storedText(section, key.key);
         const bool isStored = !stored.isEmpty();
         if (section == SettingSection::General) shown.append({key.key, variables_.text(key.key), isStored});
-        else shown.append({key.key, isStored ? stored : SlopeValue(SlopeOpeningState(), key.key), isStored});
+        else shown.append({key.key, SlopeValue(SlopeOpeningState(), key.key), false}); // it loads nothing stored
     }
     return shown;
+}
+
+QList<ShownValue> UserFiles::committedValues(SettingSection section) const {
+    if (section == SettingSection::Slope) return values(section);
+    QList<ShownValue> committed;
+    for (const CommittedRow& row : ComposeGeneralCommit(LoadedControlState(variables_)))
+        committed.append({FindSettingKey(section, row.key) ? FindSettingKey(section, row.key)->key : row.key, row.value,
+                          !storedText(section, row.key).isEmpty()});
+    return committed;
 }
 
 std::optional<QList<CommittedRow>> UserFiles::planCommit(CommitPlan& plan, SettingSection section,

@@ -37,6 +37,11 @@ public:
     // stored text, or the default (the form's design for the slope dialog).
     QList<ShownValue> values(SettingSection section) const;
 
+    // Each key of the section with the value that the dialog's OK would
+    // write right after opening; a key that it would not write (a unit
+    // whose stored value selects no button) is left out.
+    QList<ShownValue> committedValues(SettingSection section) const;
+
     // The text stored for a key now, empty when there is none.
     QString storedText(SettingSection section, const QString& key) const;
 

@@ -6,7 +6,13 @@
 #include "platform/Cp1252.h"
 #include "platform/FileAccess.h"
 
+#include "platform/WindowsPaths.h"
+
 #include <QFile>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 
 #include <cstdio>
 
@@ -16,23 +22,26 @@ namespace {
 
 using SectionEdits = QList<QPair<SettingSection, QList<Edit>>>;
 
-// Every refusal is told, then nothing is written anywhere.
-std::optional<Edit> parseOrComplain(SettingSection section, const QString& assignment, bool& refused) {
+// Every refusal is told and kept; then nothing is written anywhere.
+std::optional<Edit> parseOrRefuse(SettingSection section, const QString& assignment, QStringList& refusals) {
     QString error;
     std::optional<Edit> edit = ParseEdit(section, assignment, &error);
     if (!edit) {
         Complain(error);
-        refused = true;
+        refusals.append(error);
     }
     return edit;
 }
 
-std::optional<SectionEdits> editsOfCommandLine(const Options& options) {
+void refuse(const QString& error, QStringList& refusals) {
+    Complain(error);
+    refusals.append(error);
+}
+
+SectionEdits editsOfCommandLine(const Options& options, QStringList& refusals) {
     QList<Edit> edits;
-    bool refused = false;
     for (const QString& assignment : options.arguments)
-        if (auto edit = parseOrComplain(options.section, assignment, refused)) edits.append(*edit);
-    if (refused) return std::nullopt;
+        if (auto edit = parseOrRefuse(options.section, assignment, refusals)) edits.append(*edit);
     return SectionEdits{{options.section, edits}};
 }
 
@@ -45,97 +54,209 @@ std::optional<QByteArray> readInput(const QString& file) {
 
 // The keys of [Brimo_Gene] and [Brimo_Talus] of a profile file, as values
 // given on the command line.
-std::optional<SectionEdits> editsOfProfile(const QString& file) {
+SectionEdits editsOfProfile(const Options& options, QStringList& refusals) {
+    SectionEdits all;
+    if (options.arguments.size() != 1) {
+        refuse(QStringLiteral("apply takes one FILE"), refusals);
+        return all;
+    }
+    const QString& file = options.arguments.first();
     const std::optional<QByteArray> bytes = readInput(file);
     if (!bytes) {
-        Complain(QStringLiteral("%1: cannot be read").arg(file));
-        return std::nullopt;
+        refuse(QStringLiteral("%1: cannot be read").arg(file), refusals);
+        return all;
     }
     const ProfileDocument profile(*bytes);
-    SectionEdits all;
-    bool refused = false;
     for (SettingSection section : {SettingSection::General, SettingSection::Slope}) {
         const QByteArray name = toCp1252(SectionName(section));
         QList<Edit> edits;
         for (const QByteArray& key : profile.keyNames(name))
-            if (auto edit = parseOrComplain(section, fromCp1252(key + '=' + profile.getString(name, key)), refused))
+            if (auto edit = parseOrRefuse(section, fromCp1252(key + '=' + profile.getString(name, key)), refusals))
                 edits.append(*edit);
         if (!edits.isEmpty()) all.append({section, edits});
     }
-    if (all.isEmpty() && !refused) Complain(QStringLiteral("%1: no key of [Brimo_Gene] or [Brimo_Talus]").arg(file));
-    if (refused || all.isEmpty()) return std::nullopt;
+    if (all.isEmpty() && refusals.isEmpty())
+        refuse(QStringLiteral("%1: no key of [Brimo_Gene] or [Brimo_Talus]").arg(file), refusals);
     return all;
 }
 
-struct Tally {
-    int changed = 0;
-    int alreadySo = 0;
+// What a commit did on one prefix, for the text report and --json.
+struct PrefixReport {
+    QString prefix;
+    QString user;
+    bool changed = false;
+    QList<QStringList> keys; // section, key, old value, new value
+    QStringList files;
+    QString error;
 };
 
+QJsonObject jsonOf(const PrefixReport& report) {
+    QJsonArray keys;
+    for (const QStringList& key : report.keys)
+        keys.append(QJsonObject{{"section", key[0]}, {"key", key[1]}, {"old", key[2]}, {"new", key[3]}});
+    QJsonObject json{{"prefix", report.prefix},
+                     {"user", report.user},
+                     {"changed", report.changed},
+                     {"keys", keys},
+                     {"files", QJsonArray::fromStringList(report.files)}};
+    if (!report.error.isEmpty()) json.insert(QStringLiteral("error"), report.error);
+    return json;
+}
+
+void printText(const PrefixReport& report, bool check) {
+    if (!report.error.isEmpty()) {
+        Complain(QStringLiteral("%1: %2").arg(report.prefix, report.error));
+        return;
+    }
+    if (!report.changed) {
+        Print(QStringLiteral("%1: already so\n").arg(report.prefix));
+        return;
+    }
+    QString text = QStringLiteral("%1: %2\n").arg(report.prefix, check ? "would change" : "changed");
+    for (const QStringList& key : report.keys) text += QStringLiteral("  %1: \"%2\" -> \"%3\"\n").arg(key[1], key[2], key[3]);
+    for (const QString& file : report.files) text += QStringLiteral("  file %1\n").arg(file);
+    Print(text);
+}
+
 // One prefix: compose every commit, compare with the files, write when they
-// differ (unless only checking). False when the prefix failed.
-bool commitOnPrefix(const Options& options, const SectionEdits& edits, const QString& prefix, Tally& tally) {
+// differ (unless only checking).
+PrefixReport commitOnPrefix(const Options& options, const SectionEdits& edits, const QString& prefix) {
     const UserFiles user(options.user);
+    PrefixReport report{prefix, user.info().actuel, false, {}, {}, {}};
     if (user.lock().busy()) {
-        Complain(QStringLiteral("%1: %2: %3").arg(prefix, user.lock().iniPath(), user.lock().busyOutcome().reason));
-        return false;
+        report.error = QStringLiteral("%1: %2").arg(user.lock().iniPath(), user.lock().busyOutcome().reason);
+        return report;
     }
     CommitPlan plan(user.lock());
-    QString report;
+    plan.setWhat(options.command);
     for (const auto& [section, sectionEdits] : edits) {
         QString error;
         const std::optional<QList<CommittedRow>> rows = user.planCommit(plan, section, sectionEdits, &error);
         if (!rows) {
-            Complain(QStringLiteral("%1: %2").arg(prefix, error));
-            return false;
+            report.error = error;
+            return report;
         }
         for (const CommittedRow& row : *rows)
             if (const QString before = user.storedText(section, row.key); before != row.value)
-                report += QStringLiteral("  %1: \"%2\" -> \"%3\"\n").arg(row.key, before, row.value);
+                report.keys.append({SectionName(section), row.key, before, row.value});
     }
-    const QStringList files = plan.changedFiles();
-    if (files.isEmpty()) {
-        ++tally.alreadySo;
-        Print(QStringLiteral("%1: already so\n").arg(prefix));
-        return true;
-    }
-    if (!options.check) {
+    report.files = plan.changedFiles();
+    report.changed = !report.files.isEmpty();
+    if (report.changed && !options.check) {
         const CommitOutcome outcome = plan.write();
-        if (!outcome.ok) {
-            Complain(QStringLiteral("%1: %2: %3").arg(prefix, outcome.file, outcome.reason));
-            return false;
-        }
+        if (!outcome.ok) report.error = QStringLiteral("%1: %2").arg(outcome.file, outcome.reason);
     }
-    ++tally.changed;
-    for (const QString& file : files) report += QStringLiteral("  file %1\n").arg(file);
-    Print(QStringLiteral("%1: %2\n").arg(prefix, options.check ? "would change" : "changed") + report);
-    return true;
+    return report;
 }
 
-int commitEverywhere(const Options& options, const std::optional<SectionEdits>& edits) {
-    if (!edits) return kRefused;
-    Tally tally;
-    const int failed = ForEachPrefix(options, [&](const QString& prefix) {
-        return commitOnPrefix(options, *edits, prefix, tally);
-    });
-    Print(QStringLiteral("%1 %2, already so %3, failed %4\n")
-              .arg(options.check ? "would change" : "changed")
-              .arg(tally.changed)
-              .arg(tally.alreadySo)
-              .arg(failed));
-    return failed ? kFailed : tally.changed ? kChanged : kAlreadySo;
+// Runs `each` on every prefix, reports each as text or gathers it for one
+// JSON document, and counts.
+RunResult reportEverywhere(const Options& options, const QStringList& refusals,
+                           const std::function<PrefixReport(const QString& prefix)>& each) {
+    RunResult result;
+    result.refused = !refusals.isEmpty();
+    QJsonArray prefixes;
+    int alreadySo = 0;
+    if (!result.refused) {
+        result.failed = ForEachPrefix(options, [&](const QString& prefix) {
+            const PrefixReport report = each(prefix);
+            if (options.json) prefixes.append(jsonOf(report));
+            else printText(report, options.check);
+            if (!report.error.isEmpty()) return false;
+            (report.changed ? result.changed : alreadySo) += 1;
+            return true;
+        }, [&](const QString& prefix, const QString& error) {
+            if (options.json) prefixes.append(jsonOf({prefix, {}, false, {}, {}, error}));
+        });
+        if (!options.json)
+            Print(QStringLiteral("%1 %2, already so %3, failed %4\n")
+                      .arg(options.check ? "would change" : "changed")
+                      .arg(result.changed)
+                      .arg(alreadySo)
+                      .arg(result.failed));
+    }
+    if (options.json) {
+        const char* status = result.refused  ? "refused"
+                             : result.failed ? "failed"
+                             : result.changed ? "changed"
+                                              : "already so";
+        Print(QString::fromUtf8(QJsonDocument(QJsonObject{{"command", options.command},
+                                                          {"check", options.check},
+                                                          {"status", status},
+                                                          {"refusals", QJsonArray::fromStringList(refusals)},
+                                                          {"changed", result.changed},
+                                                          {"already_so", alreadySo},
+                                                          {"failed", result.failed},
+                                                          {"prefixes", prefixes}})
+                                    .toJson()));
+    }
+    return result;
+}
+
+RunResult commitEverywhere(const Options& options, const SectionEdits& edits, const QStringList& refusals) {
+    return reportEverywhere(options, refusals, [&](const QString& prefix) { return commitOnPrefix(options, edits, prefix); });
+}
+
+// One prefix: the files of a history entry brought back.
+PrefixReport restoreOnPrefix(const Options& options, int number, const QString& prefix) {
+    const UserFiles user(options.user);
+    PrefixReport report{prefix, user.info().actuel, false, {}, {}, {}};
+    const QString nativeIni = ToNativePath(user.lock().iniPath());
+    const QList<HistoryEntry> history = ReadHistory(nativeIni);
+    const HistoryEntry* entry = nullptr;
+    for (const HistoryEntry& each : history)
+        if (number == 0 || each.number == number) entry = &each;
+    if (!entry) {
+        report.error = QStringLiteral("%1: no history entry%2").arg(HistoryFolder(nativeIni), number ? QStringLiteral(" %1").arg(number) : QString());
+        return report;
+    }
+    const QString folder = QFileInfo(nativeIni).absolutePath() + QLatin1Char('/');
+    const QString windowsFolder = user.lock().iniPath().left(user.lock().iniPath().lastIndexOf(QLatin1Char('\\')) + 1);
+    QByteArray iniBack = ReadWholeFile(nativeIni).value_or(QByteArray());
+    for (const KeptFile& file : entry->files) {
+        if (!file.bytes || ReadWholeFile(folder + file.name) == *file.bytes) continue;
+        report.files.append(windowsFolder + file.name);
+        if (folder + file.name == nativeIni) iniBack = *file.bytes;
+    }
+    const ProfileDocument now(ReadWholeFile(nativeIni).value_or(QByteArray())), back(iniBack);
+    for (const QString& changed : ChangedKeys(now.bytes(), back.bytes())) {
+        const QByteArray section = toCp1252(changed.section(QLatin1Char('/'), 0, 0));
+        const QByteArray key = toCp1252(changed.section(QLatin1Char('/'), 1));
+        report.keys.append({fromCp1252(section), fromCp1252(key), fromCp1252(now.getString(section, key, 1 << 20)),
+                            fromCp1252(back.getString(section, key, 1 << 20))});
+    }
+    report.changed = !report.files.isEmpty();
+    if (report.changed && !options.check) {
+        const CommitOutcome outcome = RestoreHistoryEntry(user.lock(), entry->number);
+        if (!outcome.ok) report.error = QStringLiteral("%1: %2").arg(outcome.file, outcome.reason);
+    }
+    return report;
 }
 
 } // namespace
 
-int RunSet(const Options& options) { return commitEverywhere(options, editsOfCommandLine(options)); }
+RunResult RunSet(const Options& options) {
+    QStringList refusals;
+    const SectionEdits edits = editsOfCommandLine(options, refusals);
+    return commitEverywhere(options, edits, refusals);
+}
 
-int RunApply(const Options& options) {
-    if (options.arguments.size() != 1) {
-        Complain(QStringLiteral("apply takes one FILE"));
-        return kRefused;
+RunResult RunApply(const Options& options) {
+    QStringList refusals;
+    const SectionEdits edits = editsOfProfile(options, refusals);
+    return commitEverywhere(options, edits, refusals);
+}
+
+RunResult RunRestore(const Options& options) {
+    QStringList refusals;
+    int number = 0;
+    if (options.arguments.size() > 1) refuse(QStringLiteral("restore takes at most one entry number"), refusals);
+    else if (options.arguments.size() == 1) {
+        bool ok = false;
+        number = options.arguments.first().toInt(&ok);
+        if (!ok || number <= 0) refuse(QStringLiteral("%1: no entry number").arg(options.arguments.first()), refusals);
     }
-    return commitEverywhere(options, editsOfProfile(options.arguments.first()));
+    return reportEverywhere(options, refusals, [&](const QString& prefix) { return restoreOnPrefix(options, number, prefix); });
 }
 
 } // namespace brimo

@@ -2,6 +2,7 @@
 // command line, read and written as the dialogs read and write them.
 #include "settings/Commands.h"
 
+#include <QCoreApplication>
 #include <QString>
 #include <QStringList>
 
@@ -19,27 +20,47 @@ Commands:
   set KEY=VALUE...    check each value as its field does, then write both
                       files as the dialog's OK does; keys not given keep what
                       the dialog opens with
-  export FILE         write the user's values (both sections) to a profile
-                      file; FILE "-" is the standard output
+  export FILE         write what each dialog's OK would write for the user
+                      (both sections) to a profile file; FILE "-" is the
+                      standard output
   apply FILE          set the keys of [Brimo_Gene] and [Brimo_Talus] of a
                       profile file; FILE "-" is the standard input
+  history             list the last 20 commits of the user's files (by the
+                      dialogs' OK, set, apply, restore): number, time,
+                      program, what, keys changed
+  restore [N]         bring back both files as they were before the last
+                      commit, or before commit N of the history; recorded
+                      in the history in turn
   help, version
 
 Options:
   --dialog general|slope   the dialog whose keys get and set use (general)
-  --json                   get: print JSON
+  --json                   get, set, apply, restore, history: print one JSON
+                           document (set, apply, restore: per prefix the
+                           user, changed, keys with old and new values,
+                           files, error)
   --origin                 get: put "stored" or "default" and a tab in front
-  --check                  set, apply: report what would change, write nothing
+  --check                  set, apply, restore: report what would change,
+                           write nothing
+  --detailed-exitcodes     exit statuses as Puppet's option of that name
   --prefix DIR             a Wine prefix in place of $WINEPREFIX (repeatable)
   --prefixes-from FILE     prefixes from FILE, one a line ('#' starts a comment)
   --user NAME              the user in place of [Users] actuel of zorel.ini
+  -h, --help, --help-all   this text (--help-all: and the option list)
+  --version
+Options take their value as "--opt value" or "--opt=value"; "--" ends them.
 
 Exit status:
-  0  done, and nothing needed changing (get, and export to "-", always so)
-  1  done, and some user's files changed (with --check: would change)
+  0  done, whether or not anything changed
   2  refused: a bad option, unknown key, value that is no number, value out
      of its choices, or double quote in a text; nothing was written
   3  some prefix failed (reported); the other prefixes went on
+With --detailed-exitcodes (Puppet's convention):
+  0  done, nothing changed (with --check: nothing would change)
+  1  refused, nothing tried
+  2  done, some files changed (with --check: would change)
+  4  some prefix failed, nothing changed elsewhere
+  6  some prefix failed, and some other changed
 
 See brimo-settings(1).
 )";
@@ -48,6 +69,7 @@ See brimo-settings(1).
 
 int main(int argc, char** argv) {
     using namespace brimo;
+    QCoreApplication application(argc, argv);
     QStringList arguments;
     for (int i = 1; i < argc; ++i) arguments.append(QString::fromLocal8Bit(argv[i]));
 
@@ -55,14 +77,17 @@ int main(int argc, char** argv) {
     const std::optional<Options> options = ParseOptions(arguments, &error);
     if (!options) {
         Complain(error + QStringLiteral(" (see brimo-settings --help)"));
-        return kRefused;
+        return ExitStatusOf({true}, arguments.contains(QStringLiteral("--detailed-exitcodes")));
     }
     const QString& command = options->command;
-    if (command == QLatin1String("help")) Print(QString::fromUtf8(kUsage));
+    RunResult result;
+    if (command == QLatin1String("help")) Print(QString::fromUtf8(kUsage) + (options->helpAll ? QLatin1Char('\n') + OptionList() : QString()));
     else if (command == QLatin1String("version")) Print(QStringLiteral("brimo-settings " BRIMO_VERSION "\n"));
-    else if (command == QLatin1String("get")) return RunGet(*options);
-    else if (command == QLatin1String("set")) return RunSet(*options);
-    else if (command == QLatin1String("export")) return RunExport(*options);
-    else if (command == QLatin1String("apply")) return RunApply(*options);
-    return kAlreadySo;
+    else if (command == QLatin1String("get")) result = RunGet(*options);
+    else if (command == QLatin1String("set")) result = RunSet(*options);
+    else if (command == QLatin1String("export")) result = RunExport(*options);
+    else if (command == QLatin1String("apply")) result = RunApply(*options);
+    else if (command == QLatin1String("history")) result = RunHistory(*options);
+    else if (command == QLatin1String("restore")) result = RunRestore(*options);
+    return ExitStatusOf(result, options->detailedExitCodes);
 }

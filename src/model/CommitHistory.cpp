@@ -1,0 +1,170 @@
+#include "model/CommitHistory.h"
+
+#include "model/GeneralVariables.h"
+#include "model/SlopeCommit.h"
+#include "platform/Cp1252.h"
+#include "platform/FileAccess.h"
+#include "platform/ProfileDocument.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstring>
+#include <cstdio>
+#include <unistd.h>
+
+namespace brimo {
+
+namespace {
+
+const QString kEntryFile = QStringLiteral("entry.json");
+const QString kPartialPrefix = QStringLiteral(".partial-");
+
+// An entry's folder is its number, six digits; anything else is not an entry.
+std::optional<int> numberOf(const QString& name) {
+    bool ok = false;
+    const int number = name.toInt(&ok);
+    if (!ok || number <= 0 || name.size() != 6) return std::nullopt;
+    return number;
+}
+
+QString entryFolder(const QString& history, int number) {
+    return history + QLatin1Char('/') + QStringLiteral("%1").arg(number, 6, 10, QLatin1Char('0'));
+}
+
+QString partialFolder(const QString& history) {
+    static int count = 0;
+    return history + QLatin1Char('/') + kPartialPrefix + QString::number(::getpid()) + QLatin1Char('-') +
+           QString::number(++count);
+}
+
+std::optional<HistoryEntry> readEntry(const QString& folder, int number) {
+    const std::optional<QByteArray> bytes = ReadWholeFile(folder + QLatin1Char('/') + kEntryFile);
+    if (!bytes) return std::nullopt;
+    const QJsonObject json = QJsonDocument::fromJson(*bytes).object();
+    if (json.isEmpty()) return std::nullopt;
+    HistoryEntry entry{number,
+                       QDateTime::fromString(json.value(QLatin1String("when")).toString(), Qt::ISODate),
+                       json.value(QLatin1String("program")).toString(),
+                       json.value(QLatin1String("what")).toString(),
+                       {},
+                       {}};
+    for (const QJsonValue& key : json.value(QLatin1String("keys")).toArray()) entry.keys.append(key.toString());
+    for (const QJsonValue& value : json.value(QLatin1String("files")).toArray()) {
+        const QJsonObject file = value.toObject();
+        const QString name = file.value(QLatin1String("name")).toString();
+        if (name.isEmpty() || name.contains(QLatin1Char('/')) || name.startsWith(QLatin1Char('.'))) return std::nullopt;
+        KeptFile kept{name, std::nullopt};
+        if (file.value(QLatin1String("existed")).toBool()) {
+            kept.bytes = ReadWholeFile(folder + QLatin1Char('/') + name);
+            if (!kept.bytes) return std::nullopt;
+        }
+        entry.files.append(kept);
+    }
+    return entry;
+}
+
+QByteArray entryJson(const HistoryEntry& entry) {
+    QJsonArray files;
+    for (const KeptFile& file : entry.files)
+        files.append(QJsonObject{{"name", file.name}, {"existed", file.bytes.has_value()}});
+    return QJsonDocument(QJsonObject{{"when", entry.when.toString(Qt::ISODateWithMs)},
+                                     {"program", entry.program},
+                                     {"what", entry.what},
+                                     {"keys", QJsonArray::fromStringList(entry.keys)},
+                                     {"files", files}})
+        .toJson();
+}
+
+// A folder is first renamed out of the numbers, then removed: a kill in the
+// middle leaves a partial folder, never a damaged entry.
+void removeFolder(const QString& history, const QString& folder) {
+    const QString doomed = partialFolder(history);
+    if (QDir().rename(folder, doomed)) QDir(doomed).removeRecursively();
+}
+
+} // namespace
+
+QString HistoryFolder(const QString& nativeIni) {
+    return QFileInfo(nativeIni).absolutePath() + QStringLiteral("/Brimo.history");
+}
+
+QList<HistoryEntry> ReadHistory(const QString& nativeIni) {
+    const QString history = HistoryFolder(nativeIni);
+    QList<HistoryEntry> entries;
+    for (const QString& name : QDir(history).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name))
+        if (const std::optional<int> number = numberOf(name))
+            if (std::optional<HistoryEntry> entry = readEntry(history + QLatin1Char('/') + name, *number))
+                entries.append(*entry);
+    return entries;
+}
+
+std::optional<int> RecordHistory(const QString& nativeIni, const HistoryEntry& entry, QString* error) {
+    const QString history = HistoryFolder(nativeIni);
+    QDir dir(history);
+    if (!dir.exists() && !QDir().mkpath(history)) {
+        *error = QStringLiteral("%1: cannot be created").arg(history);
+        return std::nullopt;
+    }
+    int last = 0;
+    QStringList numbered;
+    for (const QString& name : dir.entryList(QDir::Dirs | QDir::NoDotAndDotDot | QDir::Hidden, QDir::Name)) {
+        if (name.startsWith(kPartialPrefix)) QDir(history + QLatin1Char('/') + name).removeRecursively();
+        else if (const std::optional<int> number = numberOf(name)) {
+            last = std::max(last, *number);
+            numbered.append(name);
+        }
+    }
+
+    const QString partial = partialFolder(history);
+    if (!QDir().mkdir(partial)) {
+        *error = QStringLiteral("%1: cannot be created").arg(partial);
+        return std::nullopt;
+    }
+    bool written = WriteWholeFile(partial + QLatin1Char('/') + kEntryFile, entryJson(entry), error);
+    for (const KeptFile& file : entry.files)
+        if (written && file.bytes) written = WriteWholeFile(partial + QLatin1Char('/') + file.name, *file.bytes, error);
+    const QString folder = entryFolder(history, last + 1);
+    if (!written || !SyncFolder(partial) || std::rename(QFile::encodeName(partial).constData(),
+                                                         QFile::encodeName(folder).constData()) != 0) {
+        if (written) *error = QStringLiteral("%1: %2").arg(folder, QString::fromLocal8Bit(std::strerror(errno)));
+        QDir(partial).removeRecursively();
+        return std::nullopt;
+    }
+    SyncFolder(history);
+    for (qsizetype i = 0; i + kHistoryLength <= numbered.size(); ++i)
+        removeFolder(history, history + QLatin1Char('/') + numbered[i]);
+    return last + 1;
+}
+
+void DropHistoryEntry(const QString& nativeIni, int number) {
+    const QString history = HistoryFolder(nativeIni);
+    removeFolder(history, entryFolder(history, number));
+    SyncFolder(history);
+}
+
+QString CommitProgramName() {
+    const QString exe = QFileInfo(QStringLiteral("/proc/self/exe")).symLinkTarget();
+    return exe.isEmpty() ? QStringLiteral("unknown") : QFileInfo(exe).fileName();
+}
+
+QStringList ChangedKeys(const QByteArray& iniBefore, const QByteArray& iniAfter) {
+    const ProfileDocument before(iniBefore), after(iniAfter);
+    QStringList changed;
+    for (const char* section : {kGeneralSection, kSlopeSection}) {
+        QList<QByteArray> keys = after.keyNames(section);
+        for (const QByteArray& key : before.keyNames(section))
+            if (!keys.contains(key)) keys.append(key);
+        for (const QByteArray& key : keys)
+            if (before.getString(section, key, 1 << 20) != after.getString(section, key, 1 << 20))
+                changed.append(QLatin1String(section) + QLatin1Char('/') + fromCp1252(key));
+    }
+    return changed;
+}
+
+} // namespace brimo
