@@ -10,10 +10,15 @@
 # both as before that commit or both as it would have left them, byte for
 # byte, with no staged file and no journal beside them, then types a new
 # value into Text1, presses Command1 and kills the program after a random
-# delay within the time that one commit takes.
+# delay within the time that one commit takes. Then brimo-settings restore
+# (next to the program in the build, or SETTINGS) is killed likewise, KILLS / 2
+# times: the pair is then as before the restore or as the history entry kept
+# it. After every round, each entry of Brimo.history/ that history would
+# list is whole.
 source "$(dirname "$0")/../e2e/lib.sh"
 e2e_setup "$1"
 kills=${2:-10}
+settings=${3:-$(dirname "$1")/../settings/brimo-settings}
 
 e2e_zorel 'C:\Zorel' 'C:\Zorel\Var' 'Jean'
 legends=""
@@ -63,9 +68,26 @@ commit_value() {
   sleep 0.2
 }
 
+# Every numbered entry of the history is whole: its record reads, and each
+# file it says existed is there. A temporary folder a kill left is allowed.
+check_history() { # round
+  python3 - "$folder/Brimo.history" "$1" <<'PY' || exit 1
+import json, os, sys
+history, round_ = sys.argv[1], sys.argv[2]
+for name in sorted(os.listdir(history)) if os.path.isdir(history) else []:
+    if name.startswith(".partial-"):
+        continue
+    entry = json.load(open(os.path.join(history, name, "entry.json")))
+    for f in entry["files"]:
+        if f["existed"] and not os.path.isfile(os.path.join(history, name, f["name"])):
+            sys.exit("FAIL: round %s: history entry %s lacks %s" % (round_, name, f["name"]))
+PY
+}
+
 check_pair() { # round
   local left
-  left=$(ls -A "$folder" | grep -v -x -e Brimo.ini -e Brimo_Talus.lsp || true)
+  check_history "$1"
+  left=$(ls -A "$folder" | grep -v -x -e Brimo.ini -e Brimo_Talus.lsp -e Brimo.history || true)
   [ -z "$left" ] || { echo "FAIL: round $1 left: $left"; exit 1; }
   if cmp -s "$lisp" "$E2E_DIR/old.lsp" && cmp -s "$ini" "$E2E_DIR/old.ini"; then old=$((old + 1))
   elif cmp -s "$lisp" "$E2E_DIR/new.lsp" && cmp -s "$ini" "$E2E_DIR/new.ini"; then new=$((new + 1))
@@ -132,4 +154,24 @@ kill "$E2E_PID"; wait "$E2E_PID" 2>/dev/null || true; E2E_PID=
 echo "$((old + new)) of $kills consistent: $old both old, $new both new;" \
      "$((kills - finished)) killed during the commit, $finished had ended;" \
      "the start finished $forward commits and undid $back"
+
+# brimo-settings restore, killed at a random moment: "old" is the pair before
+# it, "new" the pair that the last history entry kept. Each restore is kept
+# in turn, so the next one goes back again.
+old=0 new=0 restores=$((kills / 2))
+for round in $(seq 1 "$restores"); do
+  last=$(ls "$folder/Brimo.history" | grep -x '[0-9]*' | tail -n 1)
+  cp "$lisp" "$E2E_DIR/old.lsp"; cp "$ini" "$E2E_DIR/old.ini"
+  cp "$folder/Brimo.history/$last/Brimo_Talus.lsp" "$E2E_DIR/new.lsp"
+  cp "$folder/Brimo.history/$last/Brimo.ini" "$E2E_DIR/new.ini"
+  python3 -c '
+import random, signal, subprocess, sys, time
+p = subprocess.Popen(sys.argv[1:3] + ["--prefix", sys.argv[3]], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+time.sleep(random.uniform(0, 1.2 * int(sys.argv[4]) / 1000))
+p.send_signal(signal.SIGKILL)
+p.wait()' "$settings" restore "$WINEPREFIX" "$span_ms"
+  "$settings" history --prefix "$WINEPREFIX" > /dev/null 2>&1 # recovers, as any start does
+  check_pair "restore $round"
+done
+echo "$((old + new)) of $restores restores consistent: $old both old, $new both new"
 echo "PASS"

@@ -5,6 +5,10 @@
 
 #include <gtest/gtest.h>
 
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
 namespace brimo::test {
 namespace {
 
@@ -25,7 +29,7 @@ const QList<Refusal> kRefusals = {
     {"a slope key in the general settings", {"set", "x_QZ_tal_dh=3"}, "x_QZ_tal_dh"},
     {"unit out of its choices", {"set", "x_def_ounit=3"}, "x_def_ounit"},
     {"language in lower case", {"set", "x_lang=fra"}, "x_lang"},
-    {"check box beyond 0 and 1", {"set", "affilogoKVO=2"}, "affilogoKVO"},
+    {"check box beyond its states", {"set", "affilogoKVO=3"}, "affilogoKVO"},
     {"quote in a text", {"set", "x_nom_bureau=Le \"Nord\""}, "x_nom_bureau"},
     {"quote in a path", {"set", "Path_Win1=C:\\\"x\".exe"}, "Path_Win1"},
     {"slope field no number", {"set", "--dialog", "slope", "x_QZ_tal_dv=x"}, "x_QZ_tal_dv"},
@@ -50,18 +54,26 @@ TEST(SettingsRefusalTest, RefusedValuesWriteNothing) {
     }
 }
 
-// A profile file with one bad key is refused whole, for every prefix.
+// A profile file with one bad key is refused whole, for every prefix; with
+// Puppet's statuses the refusal is 1, and --json names it.
 TEST(SettingsRefusalTest, ApplyOfAFileWithABadValueWritesNothing) {
     ScratchPrefix prefix;
     prefix.writeZorelIni(QStringLiteral("C:\\Zorel"), QStringLiteral("C:\\Zorel\\Var"), QStringLiteral("jo"));
     prefix.write(kDir + "Brimo.ini", kIni);
     prefix.write(QStringLiteral("C:\\office.ini"), "[Brimo_Gene]\r\nx_nom_bureau=Nord\r\n[Brimo_Talus]\r\nx_QZ_rech_360=abc\r\n");
-    const SettingsRun run = RunSettings({QStringLiteral("apply"), prefix.native(QStringLiteral("C:\\office.ini")),
-                                         QStringLiteral("--prefix"), prefix.root()});
-    EXPECT_EQ(run.status, 2);
-    EXPECT_TRUE(run.errors.contains(QLatin1String("x_QZ_rech_360")));
-    EXPECT_EQ(prefix.read(kDir + "Brimo.ini"), kIni);
-    EXPECT_FALSE(prefix.exists(kDir + "Brimo_Gene.lsp"));
+    for (const auto& [options, status] : {std::pair{QStringList{}, 2}, {QStringList{"--json", "--detailed-exitcodes"}, 1}}) {
+        const SettingsRun run = RunSettings(QStringList{QStringLiteral("apply"), prefix.native(QStringLiteral("C:\\office.ini")),
+                                                        QStringLiteral("--prefix"), prefix.root()} + options);
+        EXPECT_EQ(run.status, status);
+        EXPECT_TRUE(run.errors.contains(QLatin1String("x_QZ_rech_360")));
+        if (!options.isEmpty()) {
+            const QJsonObject json = QJsonDocument::fromJson(run.output.toUtf8()).object();
+            EXPECT_EQ(json["status"].toString(), "refused");
+            EXPECT_TRUE(json["refusals"].toArray().first().toString().contains("x_QZ_rech_360"));
+        }
+        EXPECT_EQ(prefix.read(kDir + "Brimo.ini"), kIni);
+        EXPECT_FALSE(prefix.exists(kDir + "Brimo_Gene.lsp"));
+    }
 }
 
 } // namespace
