@@ -45,6 +45,12 @@ QJsonObject jsonOf(const QString& prefix, const UserFiles& user, SettingSection 
             {"values", byKey}};
 }
 
+// The keys of a history line: the first five, then how many more.
+QString shortList(const QStringList& keys) {
+    if (keys.size() <= 5) return keys.join(QLatin1Char(' '));
+    return keys.mid(0, 5).join(QLatin1Char(' ')) + QStringLiteral(" and %1 more").arg(keys.size() - 5);
+}
+
 } // namespace
 
 RunResult RunGet(const Options& options) {
@@ -118,7 +124,7 @@ RunResult RunHistory(const Options& options) {
                 Print(QStringLiteral("%1\t%2\t%3\t%4\t%5\n")
                           .arg(entry.number)
                           .arg(entry.when.toLocalTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")), entry.program,
-                               entry.what, entry.keys.join(QLatin1Char(' '))));
+                               entry.what, shortList(entry.keys)));
             return true;
         }
         QJsonArray entries;
