@@ -107,7 +107,7 @@ QList<HistoryEntry> ReadHistory(const QString& nativeIni) {
 std::optional<int> RecordHistory(const QString& nativeIni, const HistoryEntry& entry, QString* error) {
     const QString history = HistoryFolder(nativeIni);
     QDir dir(history);
-    if (!dir.exists() && !QDir().mkpath(history)) {
+    if (!dir.exists() && !QDir().mkdir(history)) { // never the user's folder itself
         *error = QStringLiteral("%1: cannot be created").arg(history);
         return std::nullopt;
     }

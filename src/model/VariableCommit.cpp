@@ -23,7 +23,8 @@ QString lockBeside(const QString& nativeIni) {
 }
 
 // Records the files as they stand in the history, then writes them all
-// together; a write that fails takes its entry back.
+// together; a write that fails takes its entry back. Gives the native path
+// of a file that could not be written.
 CommitOutcome writeWithHistory(const QString& iniPath, const QString& nativeIni, const QList<FileToWrite>& planned,
                                const QString& what, const QByteArray& iniBefore, const QByteArray& iniAfter) {
     HistoryEntry entry{0, QDateTime::currentDateTimeUtc(), CommitProgramName(), what,
@@ -35,16 +36,17 @@ CommitOutcome writeWithHistory(const QString& iniPath, const QString& nativeIni,
         entry.files.append({QFileInfo(file.nativePath).fileName(), before});
     }
     std::optional<int> recorded;
-    if (changes) {
-        QString error;
-        recorded = RecordHistory(nativeIni, entry, &error);
-        if (!recorded) return {false, iniPath, error};
-    }
+    QString historyError;
+    if (changes) recorded = RecordHistory(nativeIni, entry, &historyError);
     QString failed, reason;
     if (!WriteFilesTogether(planned, journalBeside(nativeIni), &failed, &reason)) {
         if (recorded) DropHistoryEntry(nativeIni, *recorded);
         return {false, failed == nativeIni ? iniPath : failed, reason};
     }
+    // The commit itself says why the folder cannot be written; a history
+    // that alone cannot be kept does not stop it.
+    if (changes && !recorded)
+        std::fprintf(stderr, "Brimo: the history of this commit is not kept: %s\n", historyError.toLocal8Bit().constData());
     return {};
 }
 
