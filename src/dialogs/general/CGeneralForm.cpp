@@ -52,26 +52,47 @@ CGeneralForm::CGeneralForm(Navigator& navigator, const InstallInfo& info, Genera
     // The classic dialog font, so that six tabs fit in one row.
     setFont(DesignFont());
     controls_ = BuildGeneralControls(this, legends_);
+    cmdOK_ = controls_.require<QPushButton>(u"cmdOK");
+    CmdCancel_ = controls_.require<QPushButton>(u"CmdCancel");
+    Command7_ = controls_.require<QPushButton>(u"Command7");
+    cmdAbout_ = controls_.require<QPushButton>(u"cmdAbout");
+    for (std::size_t index = 0; index < Option5_.size(); ++index)
+        Option5_[index] = controls_.require<QRadioButton>(QStringLiteral("Option5(%1)").arg(index));
+    for (const char* name : kLoadedTextFields) fields_.insert(QLatin1String(name), controls_.require<QLineEdit>(QLatin1String(name)));
+    for (const StoredChoice& choice : kStoredChoices)
+        options_.insert(QLatin1String(choice.button), controls_.require<QRadioButton>(QLatin1String(choice.button)));
+    for (const ChoiceTest& test : kGeneralChoiceTests)
+        options_.insert(QLatin1String(test.button), controls_.require<QRadioButton>(QLatin1String(test.button)));
+    for (const StoredCheck& stored : kStoredChecks)
+        checkBoxes_.insert(QLatin1String(stored.checkBox), controls_.require<QCheckBox>(QLatin1String(stored.checkBox)));
+    for (const CommitSource& source : kGeneralCommitSources) {
+        const QString name = QLatin1String(source.control);
+        if (source.read == ControlRead::Text) fields_.insert(name, controls_.require<QLineEdit>(name));
+        if (source.read == ControlRead::State) checkBoxes_.insert(name, controls_.require<QCheckBox>(name));
+    }
 
     // The focus starts on the control of tab index 0.
-    control(u"cmdOK")->setFocus();
+    cmdOK_->setFocus();
 
     connect(controls_.tabs, &QTabWidget::currentChanged, this, [this] { SSTab1_Click(); });
-    for (int index = 0; index < static_cast<int>(kLanguageCodes.size()); ++index)
-        connect(option(QStringLiteral("Option5(%1)").arg(index)), &QRadioButton::toggled, this,
-                [this, index](bool selected) {
-                    if (selected) Option5_Click(index);
-                });
+    for (std::size_t index = 0; index < Option5_.size(); ++index)
+        connect(Option5_[index], &QRadioButton::toggled, this, [this, index](bool selected) {
+            if (selected) Option5_Click(static_cast<int>(index));
+        });
 
-    const auto onClick = [this](QAnyStringView name, auto handler) {
-        connect(static_cast<QPushButton*>(control(name)), &QPushButton::clicked, this, handler);
-    };
-    onClick(u"cmdOK", [this] { cmdOK_Click(); });
-    onClick(u"CmdCancel", [this] { CmdCancel_Click(); });
-    onClick(u"Command7", [this] { Command7_Click(); });
-    onClick(u"cmdAbout", [this] { cmdAbout_Click(); });
-    for (const ProgramLocation& location : kProgramLocations)
-        onClick(QLatin1String(location.button), [this, &location] { ProgramLocation_Click(location); });
+    connect(cmdOK_, &QPushButton::clicked, this, [this] { cmdOK_Click(); });
+    connect(CmdCancel_, &QPushButton::clicked, this, [this] { CmdCancel_Click(); });
+    connect(Command7_, &QPushButton::clicked, this, [this] { Command7_Click(); });
+    connect(cmdAbout_, &QPushButton::clicked, this, [this] { cmdAbout_Click(); });
+    for (const ProgramLocation& location : kProgramLocations) {
+        fields_.insert(QLatin1String(location.field), controls_.require<QLineEdit>(QLatin1String(location.field)));
+        connect(controls_.require<QPushButton>(QLatin1String(location.button)), &QPushButton::clicked, this,
+                [this, &location] { ProgramLocation_Click(location); });
+    }
+    // Every caption the form sets names a control of the tables.
+    for (const CaptionRow& row : LoadButtonCaptions()) controls_.require<QWidget>(QLatin1String(row.control));
+    for (int tab = 0; tab < controls_.tabs->count(); ++tab)
+        for (const CaptionRow& row : TabCaptionTable(tab)) controls_.require<QWidget>(QLatin1String(row.control));
 }
 
 void CGeneralForm::Form_Load() {
@@ -82,17 +103,17 @@ void CGeneralForm::Form_Load() {
 
     const GeneralVariables& variables = variables_;
     for (const char* name : kLoadedTextFields) {
-        QLineEdit* field = textField(QLatin1String(name));
+        QLineEdit* field = fields_.value(QLatin1String(name));
         field->setText(variables.text(QString::fromLatin1(FindGeneralControl(QLatin1String(name))->key)));
         field->setCursorPosition(0); // a long text shows its beginning
     }
 
     // Selecting a language other than the design's raises Option5_Click here.
-    for (const QString& button : StoredSelections(variables)) option(button)->setChecked(true);
+    for (const QString& button : StoredSelections(variables)) options_.value(button)->setChecked(true);
 
     for (const StoredCheck& stored : kStoredChecks)
         if (const std::optional<int> value = StoredCheckState(variables.text(QString::fromLatin1(stored.key))))
-            checkBox(QLatin1String(stored.checkBox))->setCheckState(checkStateOf(*value));
+            checkBoxes_.value(QLatin1String(stored.checkBox))->setCheckState(checkStateOf(*value));
 
     CentreOnScreen(this);
     // What OK compares with, to keep what another program writes meanwhile
@@ -140,7 +161,7 @@ void CGeneralForm::Command7_Click() {
 void CGeneralForm::cmdAbout_Click() { navigator_.Show(FormKind::About); }
 
 void CGeneralForm::ProgramLocation_Click(const ProgramLocation& location) {
-    QLineEdit* field = textField(QLatin1String(location.field));
+    QLineEdit* field = fields_.value(QLatin1String(location.field));
     QFileDialog dialog(this, legends_.GetLegends(location.titleLegend), QString(),
                        ToolkitFileFilter(legends_.GetLegends(kProgramFilterLegend)));
     dialog.setOption(QFileDialog::DontUseNativeDialog);
@@ -156,7 +177,8 @@ void CGeneralForm::ProgramLocation_Click(const ProgramLocation& location) {
 }
 
 void CGeneralForm::setCaptions(std::span<const CaptionRow> rows) {
-    for (const CaptionRow& row : rows) SetCaption(control(QLatin1String(row.control)), legends_.GetLegends(row.legend));
+    for (const CaptionRow& row : rows)
+        SetCaption(controls_.byName.value(QLatin1String(row.control)), legends_.GetLegends(row.legend));
 }
 
 void CGeneralForm::sweepTabs(std::span<const SweepStep> steps) {
@@ -171,11 +193,11 @@ GeneralControlState CGeneralForm::controlState() const {
     for (const CommitSource& source : kGeneralCommitSources) {
         const QString name = QLatin1String(source.control);
         switch (source.read) {
-        case ControlRead::Text: state.texts.insert(name, textField(name)->text()); break;
-        case ControlRead::State: state.checkStates.insert(name, checkValue(checkBox(name)->checkState())); break;
+        case ControlRead::Text: state.texts.insert(name, fields_.value(name)->text()); break;
+        case ControlRead::State: state.checkStates.insert(name, checkValue(checkBoxes_.value(name)->checkState())); break;
         case ControlRead::Options:
             for (const ChoiceTest& test : kGeneralChoiceTests)
-                if (test.row == source.row && option(QLatin1String(test.button))->isChecked())
+                if (test.row == source.row && options_.value(QLatin1String(test.button))->isChecked())
                     state.selectedOptions.insert(QLatin1String(test.button));
             break;
         }
@@ -186,7 +208,7 @@ GeneralControlState CGeneralForm::controlState() const {
 // Nothing is written: the field is shown with its edits, ready to be put right.
 void CGeneralForm::refuseUnwritableQuote(const UnwritableField& field) {
     ShowInformationBox(UnwritableQuoteMessage(field), QStringLiteral("Brimo"));
-    QWidget* text = control(field.control);
+    QLineEdit* text = fields_.value(field.control);
     showTabOf(text);
     text->setFocus(Qt::OtherFocusReason);
 }
@@ -195,9 +217,5 @@ void CGeneralForm::showTabOf(QWidget* widget) {
     for (int tab = 0; tab < controls_.tabs->count(); ++tab)
         if (controls_.tabs->widget(tab)->isAncestorOf(widget)) controls_.tabs->setCurrentIndex(tab);
 }
-
-QLineEdit* CGeneralForm::textField(QAnyStringView name) const { return static_cast<QLineEdit*>(control(name)); }
-QRadioButton* CGeneralForm::option(QAnyStringView name) const { return static_cast<QRadioButton*>(control(name)); }
-QCheckBox* CGeneralForm::checkBox(QAnyStringView name) const { return static_cast<QCheckBox*>(control(name)); }
 
 } // namespace brimo

@@ -17,6 +17,7 @@
 
 class QCheckBox;
 class QLineEdit;
+class QPushButton;
 class QRadioButton;
 
 namespace brimo {
@@ -48,17 +49,18 @@ private:
     void refuseUnwritableQuote(const UnwritableField& field);
     void showTabOf(QWidget* control);
 
-    QWidget* control(QAnyStringView name) const { return controls_.byName.value(name.toString()); }
-    QLineEdit* textField(QAnyStringView name) const;
-    QRadioButton* option(QAnyStringView name) const;
-    QCheckBox* checkBox(QAnyStringView name) const;
-
     Navigator& navigator_;
     const InstallInfo& info_;
     GeneralVariables& variables_;
     LegendTable& legends_;
     LegendFailureQuestion& legendQuestion_;
     GeneralControls controls_;
+    // The controls that the form reads and writes, resolved while it is built.
+    QPushButton *cmdOK_, *CmdCancel_, *Command7_, *cmdAbout_;
+    std::array<QRadioButton*, kLanguageCodes.size()> Option5_;
+    QHash<QString, QLineEdit*> fields_;
+    QHash<QString, QRadioButton*> options_;
+    QHash<QString, QCheckBox*> checkBoxes_;
     GeneralVariables loadedFrom_;
     GeneralControlState loaded_;
 };

@@ -325,8 +325,7 @@ GeneralControls BuildGeneralControls(QWidget* form, const LegendTable& legends) 
     }
     buildTable(kButtons, form, controls, legends);
 
-    auto* ok = static_cast<QPushButton*>(controls.byName.value(QStringLiteral("cmdOK")));
-    ok->setDefault(true);
+    controls.require<QPushButton>(u"cmdOK")->setDefault(true);
 
     for (std::size_t i = 1; i < kTabOrder.size(); ++i)
         QWidget::setTabOrder(controls.byName.value(QLatin1String(kTabOrder[i - 1])),

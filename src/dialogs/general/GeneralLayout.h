@@ -6,6 +6,7 @@
 #include <QAnyStringView>
 #include <QHash>
 #include <QString>
+#include <QWidget>
 
 class QTabWidget;
 class QWidget;
@@ -43,6 +44,16 @@ const ControlRow* FindGeneralControl(QAnyStringView name);
 struct GeneralControls {
     QTabWidget* tabs = nullptr;       // SSTab1
     QHash<QString, QWidget*> byName;  // every control of the tables, SSTab1 too
+
+    // The control of that name as the kind the caller needs. A name that the
+    // tables lack, or a control of another kind, stops the program with the
+    // name: the form resolves every control it uses while it is built, so
+    // that a misspelt name fails the first time the form opens.
+    template <class Control> Control* require(QAnyStringView name) const {
+        auto* control = qobject_cast<Control*>(byName.value(name.toString()));
+        if (!control) qFatal("CGeneralForm has no %s %s", Control::staticMetaObject.className(), qPrintable(name.toString()));
+        return control;
+    }
 };
 
 // Builds SSTab1 and every control on `form`, at their design state, and sets
