@@ -35,13 +35,14 @@ CommitOutcome writeWithHistory(const QString& iniPath, const QString& nativeIni,
         changes = changes || before != file.bytes;
         entry.files.append({QFileInfo(file.nativePath).fileName(), before});
     }
+    changes = changes && !nativeIni.isEmpty(); // a Brimo.ini that names no folder here has no history
     std::optional<int> recorded;
     QString historyError;
     if (changes) recorded = RecordHistory(nativeIni, entry, &historyError);
     QString failed, reason;
     if (!WriteFilesTogether(planned, journalBeside(nativeIni), &failed, &reason)) {
         if (recorded) DropHistoryEntry(nativeIni, *recorded);
-        return {false, failed == nativeIni ? iniPath : failed, reason};
+        return {false, failed, reason};
     }
     // The commit itself says why the folder cannot be written; a history
     // that alone cannot be kept does not stop it.
@@ -145,8 +146,11 @@ CommitOutcome RestoreHistoryEntry(const UserFolderLock& lock, int number, Histor
         if (folder + file.name == nativeIni) iniAfter = *file.bytes;
     }
     if (iniAfter.isNull()) iniAfter = ReadWholeFile(nativeIni).value_or(QByteArray());
-    return writeWithHistory(lock.iniPath(), nativeIni, planned, QStringLiteral("restore %1").arg(entry->number),
-                            ReadWholeFile(nativeIni).value_or(QByteArray()), iniAfter);
+    CommitOutcome outcome = writeWithHistory(lock.iniPath(), nativeIni, planned,
+                                             QStringLiteral("restore %1").arg(entry->number),
+                                             ReadWholeFile(nativeIni).value_or(QByteArray()), iniAfter);
+    if (!outcome.ok && outcome.file == nativeIni) outcome.file = lock.iniPath();
+    return outcome;
 }
 
 Recovery RecoverInterruptedCommit(const InstallInfo& info) { return UserFolderLock(BrimoIniPath(info)).recovery(); }
