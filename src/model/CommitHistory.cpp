@@ -24,6 +24,7 @@ namespace {
 
 const QString kEntryFile = QStringLiteral("entry.json");
 const QString kPartialPrefix = QStringLiteral(".partial-");
+const QString kStaged = QStringLiteral(".staged");
 
 // An entry's folder is its number, six digits; anything else is not an entry.
 std::optional<int> numberOf(const QString& name) {
@@ -81,6 +82,12 @@ QByteArray entryJson(const HistoryEntry& entry) {
         .toJson();
 }
 
+bool renameFolder(const QString& from, const QString& to, QString* error) {
+    if (std::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) == 0) return true;
+    *error = QStringLiteral("%1: %2").arg(to, QString::fromLocal8Bit(std::strerror(errno)));
+    return false;
+}
+
 // A folder is first renamed out of the numbers, then removed: a kill in the
 // middle leaves a partial folder, never a damaged entry.
 void removeFolder(const QString& history, const QString& folder) {
@@ -104,36 +111,44 @@ QList<HistoryEntry> ReadHistory(const QString& nativeIni) {
     return entries;
 }
 
-std::optional<int> RecordHistory(const QString& nativeIni, const HistoryEntry& entry, QString* error) {
+bool StageHistoryEntry(const QString& nativeIni, const HistoryEntry& entry, QString* error) {
     const QString history = HistoryFolder(nativeIni);
-    QDir dir(history);
-    if (!dir.exists() && !QDir().mkdir(history)) { // never the user's folder itself
+    if (!QDir(history).exists() && !QDir().mkdir(history)) { // never the user's folder itself
         *error = QStringLiteral("%1: cannot be created").arg(history);
-        return std::nullopt;
+        return false;
     }
-    int last = 0;
-    QStringList numbered;
-    for (const QString& name : dir.entryList(QDir::Dirs | QDir::NoDotAndDotDot | QDir::Hidden, QDir::Name)) {
+    for (const QString& name : QDir(history).entryList(QDir::Dirs | QDir::NoDotAndDotDot | QDir::Hidden))
         if (name.startsWith(kPartialPrefix)) QDir(history + QLatin1Char('/') + name).removeRecursively();
-        else if (const std::optional<int> number = numberOf(name)) {
-            last = std::max(last, *number);
-            numbered.append(name);
-        }
-    }
+    DropStagedHistoryEntry(nativeIni);
 
     const QString partial = partialFolder(history);
     if (!QDir().mkdir(partial)) {
         *error = QStringLiteral("%1: cannot be created").arg(partial);
-        return std::nullopt;
+        return false;
     }
     bool written = WriteWholeFile(partial + QLatin1Char('/') + kEntryFile, entryJson(entry), error);
     for (const KeptFile& file : entry.files)
         if (written && file.bytes) written = WriteWholeFile(partial + QLatin1Char('/') + file.name, *file.bytes, error);
-    const QString folder = entryFolder(history, last + 1);
-    if (!written || !SyncFolder(partial) || std::rename(QFile::encodeName(partial).constData(),
-                                                         QFile::encodeName(folder).constData()) != 0) {
-        if (written) *error = QStringLiteral("%1: %2").arg(folder, QString::fromLocal8Bit(std::strerror(errno)));
-        QDir(partial).removeRecursively();
+    const QString staged = history + QLatin1Char('/') + kStaged;
+    if (written && (!SyncFolder(partial) || !renameFolder(partial, staged, error))) written = false;
+    if (!written) QDir(partial).removeRecursively();
+    return written && SyncFolder(history);
+}
+
+std::optional<int> KeepStagedHistoryEntry(const QString& nativeIni) {
+    const QString history = HistoryFolder(nativeIni);
+    const QString staged = history + QLatin1Char('/') + kStaged;
+    if (!QFileInfo(staged).isDir()) return std::nullopt;
+    int last = 0;
+    QStringList numbered;
+    for (const QString& name : QDir(history).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name))
+        if (const std::optional<int> number = numberOf(name)) {
+            last = std::max(last, *number);
+            numbered.append(name);
+        }
+    QString error;
+    if (!renameFolder(staged, entryFolder(history, last + 1), &error)) {
+        std::fprintf(stderr, "Brimo: %s\n", error.toLocal8Bit().constData());
         return std::nullopt;
     }
     SyncFolder(history);
@@ -142,10 +157,12 @@ std::optional<int> RecordHistory(const QString& nativeIni, const HistoryEntry& e
     return last + 1;
 }
 
-void DropHistoryEntry(const QString& nativeIni, int number) {
+void DropStagedHistoryEntry(const QString& nativeIni) {
     const QString history = HistoryFolder(nativeIni);
-    removeFolder(history, entryFolder(history, number));
-    SyncFolder(history);
+    if (QFileInfo(history + QLatin1Char('/') + kStaged).isDir()) {
+        removeFolder(history, history + QLatin1Char('/') + kStaged);
+        SyncFolder(history);
+    }
 }
 
 QString CommitProgramName() {

@@ -6,10 +6,13 @@
 // a file, the files as they were go into a numbered entry of Brimo.history/
 // beside Brimo.ini, with when, by which program, for what and which keys
 // changed. The last kHistoryLength entries are kept. An entry is written in
-// a temporary folder inside Brimo.history/, flushed, then moved to its
-// number, so that an entry that exists under a number is whole; a temporary
-// one that a kill left behind is never read, and the next record removes it.
-// Every function here runs under the lock of the user's folder.
+// a temporary folder inside Brimo.history/, flushed, and renamed to the
+// staged entry before the commit writes; once the commit has taken effect
+// (or the recovery after a kill has finished it) the staged entry is renamed
+// to its number, and a commit that failed or was undone drops it. So an
+// entry under a number is whole and stands for a commit that took effect; a
+// temporary folder that a kill left is never read, and the next record
+// removes it. Every function here runs under the lock of the user's folder.
 
 #include <QByteArray>
 #include <QDateTime>
@@ -45,12 +48,18 @@ QString HistoryFolder(const QString& nativeIni);
 // The whole entries, oldest first.
 QList<HistoryEntry> ReadHistory(const QString& nativeIni);
 
-// Records an entry and prunes the oldest beyond kHistoryLength. Gives its
-// number, or nothing with `error`.
-std::optional<int> RecordHistory(const QString& nativeIni, const HistoryEntry& entry, QString* error);
+// Writes the entry that a commit is about to make, whole, as the staged
+// entry of the folder (one at most; an older one is replaced). False, with
+// `error`, when it cannot be written.
+bool StageHistoryEntry(const QString& nativeIni, const HistoryEntry& entry, QString* error);
 
-// Removes an entry, as a commit that failed after its record does.
-void DropHistoryEntry(const QString& nativeIni, int number);
+// The commit took effect: the staged entry takes the next number, and the
+// oldest beyond kHistoryLength go. Gives the number, or nothing when there
+// is no staged entry.
+std::optional<int> KeepStagedHistoryEntry(const QString& nativeIni);
+
+// The commit did not take effect: the staged entry goes.
+void DropStagedHistoryEntry(const QString& nativeIni);
 
 // The name under which this process records its commits: the name of its
 // program file.

@@ -36,17 +36,17 @@ CommitOutcome writeWithHistory(const QString& iniPath, const QString& nativeIni,
         entry.files.append({QFileInfo(file.nativePath).fileName(), before});
     }
     changes = changes && !nativeIni.isEmpty(); // a Brimo.ini that names no folder here has no history
-    std::optional<int> recorded;
     QString historyError;
-    if (changes) recorded = RecordHistory(nativeIni, entry, &historyError);
+    const bool staged = changes && StageHistoryEntry(nativeIni, entry, &historyError);
     QString failed, reason;
     if (!WriteFilesTogether(planned, journalBeside(nativeIni), &failed, &reason)) {
-        if (recorded) DropHistoryEntry(nativeIni, *recorded);
+        if (staged) DropStagedHistoryEntry(nativeIni);
         return {false, failed, reason};
     }
+    if (staged) KeepStagedHistoryEntry(nativeIni);
     // The commit itself says why the folder cannot be written; a history
     // that alone cannot be kept does not stop it.
-    if (changes && !recorded)
+    else if (changes)
         std::fprintf(stderr, "Brimo: the history of this commit is not kept: %s\n", historyError.toLocal8Bit().constData());
     return {};
 }
@@ -62,6 +62,10 @@ UserFolderLock::UserFolderLock(const QString& iniPath)
         return;
     }
     recovery_ = RecoverFilesTogether(journalBeside(nativeIni_));
+    // The entry that a commit cut off had staged counts once that commit
+    // has been finished, and goes when it has been undone.
+    if (recovery_ == Recovery::RolledForward) KeepStagedHistoryEntry(nativeIni_);
+    else if (recovery_ != Recovery::Failed) DropStagedHistoryEntry(nativeIni_);
 }
 
 CommitPlan::CommitPlan(const UserFolderLock& lock)
