@@ -51,7 +51,7 @@ CGeneralForm::CGeneralForm(Navigator& navigator, const InstallInfo& info, Genera
     setFixedSize(TwipsSize(7470, 4455));
     // The classic dialog font, so that six tabs fit in one row.
     setFont(DesignFont());
-    controls_ = BuildGeneralControls(this, legends_);
+    controls_ = BuildGeneralControls(this, legends_, refusalGuard_);
     cmdOK_ = controls_.require<QPushButton>(u"cmdOK");
     CmdCancel_ = controls_.require<QPushButton>(u"CmdCancel");
     Command7_ = controls_.require<QPushButton>(u"Command7");

@@ -96,7 +96,7 @@ QWidget* CParamRechTalus::createControl(const SlopeControl& entry, QWidget* pare
         return option;
     }
     case SlopeControlKind::TextField: {
-        auto* field = new RuleField(*FindFieldRule(SlopeFieldRules(), QString::fromLatin1(entry.name)), legends_, parent);
+        auto* field = new RuleField(*FindFieldRule(SlopeFieldRules(), QString::fromLatin1(entry.name)), legends_, refusalGuard_, parent);
         field->setText(caption);
         field->setAlignment(Qt::AlignCenter);
         return field;
