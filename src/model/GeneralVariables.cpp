@@ -45,8 +45,8 @@ void GeneralVariables::setText(QAnyStringView key, const QString& text) { values
 
 void GeneralVariables::setValue(QAnyStringView key, VariableValue value) { values_[indexOf(key)] = std::move(value); }
 
-void LoadGeneralVariables(const InstallInfo& info, GeneralVariables& variables) {
-    const ProfileDocument ini = LoadProfile(BrimoIniPath(info));
+void LoadGeneralVariables(const InstallInfo& info, GeneralVariables& variables, QString* error) {
+    const ProfileDocument ini = LoadProfile(BrimoIniPath(info), error);
     for (const GeneralVariableRow& entry : kGeneralVariableCatalogue) {
         const QString key = QLatin1String(entry.key);
         const QString read = ReadProfileString(ini, kSection, key);

@@ -7,31 +7,61 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
 #include <vector>
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace brimo {
 
 std::optional<QByteArray> ReadWholeFile(const QString& nativePath, QString* error) {
-    if (QFileInfo(nativePath).isDir()) {
-        if (error) *error = QStringLiteral("a folder stands where the file should be");
+    const auto fail = [error](const QString& why) -> std::optional<QByteArray> {
+        if (error) *error = why;
         return std::nullopt;
+    };
+    const auto kindProblem = [](const struct stat& info) -> QString {
+        if (S_ISDIR(info.st_mode)) return QStringLiteral("a folder stands where the file should be");
+        if (!S_ISREG(info.st_mode)) return QStringLiteral("not a regular file");
+        if (info.st_size > kLargestReadFile)
+            return QStringLiteral("too large (%1 bytes; at most %2 are read)").arg(info.st_size).arg(kLargestReadFile);
+        return {};
+    };
+    // A device is not even opened (opening some has effects). O_NONBLOCK: a
+    // FIFO put in place meanwhile must not hold the program; fstat then tells
+    // again what was opened.
+    struct stat info {};
+    if (::stat(QFile::encodeName(nativePath).constData(), &info) == 0 && !kindProblem(info).isEmpty())
+        return fail(kindProblem(info));
+    const int fd = ::open(QFile::encodeName(nativePath).constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
+    if (fd < 0) return fail(QString::fromLocal8Bit(std::strerror(errno)));
+    struct FdCloser {
+        int fd;
+        ~FdCloser() { ::close(fd); }
+    } closer{fd};
+    if (::fstat(fd, &info) != 0) return fail(QString::fromLocal8Bit(std::strerror(errno)));
+    if (const QString problem = kindProblem(info); !problem.isEmpty()) return fail(problem);
+
+    QByteArray bytes;
+    bytes.resize(static_cast<qsizetype>(info.st_size));
+    qsizetype done = 0;
+    for (;;) {
+        // The file can grow while it is read: never past the cap.
+        if (done == bytes.size()) {
+            if (bytes.size() > kLargestReadFile) return fail(QStringLiteral("too large (more than %1 bytes)").arg(kLargestReadFile));
+            bytes.resize(std::min<qsizetype>(bytes.size() + 65536, kLargestReadFile + 1));
+        }
+        const ssize_t n = ::read(fd, bytes.data() + done, static_cast<size_t>(bytes.size() - done));
+        if (n < 0 && errno == EINTR) continue;
+        if (n < 0) return fail(QString::fromLocal8Bit(std::strerror(errno)));
+        if (n == 0) break;
+        done += n;
     }
-    QFile file(nativePath);
-    if (!file.open(QIODevice::ReadOnly)) {
-        if (error) *error = file.errorString();
-        return std::nullopt;
-    }
-    QByteArray bytes = file.readAll();
-    if (file.error() != QFileDevice::NoError) {
-        if (error) *error = file.errorString();
-        return std::nullopt;
-    }
+    bytes.truncate(done);
     return bytes;
 }
 

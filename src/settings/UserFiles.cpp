@@ -3,7 +3,12 @@
 #include "model/GeneralLoad.h"
 #include "model/SlopeOpening.h"
 #include "model/VariableCommit.h"
+#include "platform/Cp1252.h"
 #include "platform/ProfileFile.h"
+#include "platform/WindowsPaths.h"
+#include "settings/Commands.h"
+
+#include <algorithm>
 
 namespace brimo {
 
@@ -20,12 +25,14 @@ QString slopeOpeningValue(const SettingKey& key) {
 } // namespace
 
 UserFiles::UserFiles(const std::optional<QString>& user) {
-    LoadInstallInfo(info_);
+    QString zorelError, brimoError;
+    LoadInstallInfo(info_, &zorelError);
     if (user) info_.actuel = *user == QLatin1String("Default") ? QString() : *user;
     // A commit cut short by a kill is finished or undone before anything is read.
     RecoverInterruptedCommit(info_);
-    ini_ = LoadProfile(BrimoIniPath(info_));
+    ini_ = LoadProfile(BrimoIniPath(info_), &brimoError);
     LoadGeneralVariables(info_, variables_);
+    readError_ = QStringList{zorelError, brimoError}.filter(QStringLiteral(":")).join(QLatin1Char('\n'));
 }
 
 QString UserFiles::storedText(SettingSection section, const QString& key) const {
@@ -45,10 +52,23 @@ QList<ShownValue> UserFiles::values(SettingSection section) const {
 
 std::optional<QList<CommittedRow>> UserFiles::commitRows(SettingSection section, const QList<Edit>& edits,
                                                          QString* error) const {
+    if (!readError_.isEmpty()) {
+        *error = readError_;
+        return std::nullopt;
+    }
     if (section == SettingSection::Slope) {
         SlopeControlState state = SlopeOpeningState();
         ApplyEdits(state, edits);
         return SlopeCommitRows(state);
+    }
+    // The dialog reads at most 254 characters of a stored text and its OK
+    // writes what it read: a longer text is cut unless a value is given.
+    for (const SettingKey& key : SettingKeys(section)) {
+        const qsizetype length = ini_.getString(toCp1252(SectionName(section)), toCp1252(key.key), 1 << 30).size();
+        if (length > 254 && std::none_of(edits.begin(), edits.end(), [&](const Edit& e) { return e.key == &key; }))
+            Complain(QStringLiteral("%1: %2: the stored text of %3 characters is cut to 254, as the dialog reads it")
+                         .arg(WinePrefix(), key.key)
+                         .arg(length));
     }
     GeneralControlState state = LoadedControlState(variables_);
     ApplyEdits(state, edits);
