@@ -32,7 +32,8 @@ UserFiles::UserFiles(const std::optional<QString>& user) {
     RecoverInterruptedCommit(info_);
     ini_ = LoadProfile(BrimoIniPath(info_), &brimoError);
     LoadGeneralVariables(info_, variables_);
-    readError_ = QStringList{zorelError, brimoError}.filter(QStringLiteral(":")).join(QLatin1Char('\n'));
+    for (const QString& error : {zorelError, brimoError})
+        if (!error.isEmpty()) readError_ += (readError_.isEmpty() ? QString() : QStringLiteral("\n")) + error;
 }
 
 QString UserFiles::storedText(SettingSection section, const QString& key) const {
