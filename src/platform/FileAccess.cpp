@@ -19,11 +19,44 @@
 
 namespace brimo {
 
+namespace {
+
+std::optional<QByteArray> failRead(QString* error, const QString& why) {
+    if (error) *error = why;
+    return std::nullopt;
+}
+
+// Reads `fd` to its end, `expected` bytes or more, but never past the cap:
+// a file can grow while it is read, a pipe has no end in sight.
+std::optional<QByteArray> readToEnd(int fd, qint64 expected, QString* error) {
+    QByteArray bytes;
+    bytes.resize(static_cast<qsizetype>(expected));
+    qsizetype done = 0;
+    for (;;) {
+        if (done == bytes.size()) {
+            if (bytes.size() > kLargestReadFile)
+                return failRead(error, QStringLiteral("too large (more than %1 bytes)").arg(kLargestReadFile));
+            bytes.resize(std::min<qsizetype>(bytes.size() + 65536, kLargestReadFile + 1));
+        }
+        const ssize_t n = ::read(fd, bytes.data() + done, static_cast<size_t>(bytes.size() - done));
+        if (n < 0 && errno == EINTR) continue;
+        if (n < 0) return failRead(error, QString::fromLocal8Bit(std::strerror(errno)));
+        if (n == 0) break;
+        done += n;
+    }
+    bytes.truncate(done);
+    return bytes;
+}
+
+struct FdCloser {
+    int fd;
+    ~FdCloser() { ::close(fd); }
+};
+
+} // namespace
+
 std::optional<QByteArray> ReadWholeFile(const QString& nativePath, QString* error) {
-    const auto fail = [error](const QString& why) -> std::optional<QByteArray> {
-        if (error) *error = why;
-        return std::nullopt;
-    };
+    const auto fail = [error](const QString& why) { return failRead(error, why); };
     const auto kindProblem = [](const struct stat& info) -> QString {
         if (S_ISDIR(info.st_mode)) return QStringLiteral("a folder stands where the file should be");
         if (!S_ISREG(info.st_mode)) return QStringLiteral("not a regular file");
@@ -39,30 +72,20 @@ std::optional<QByteArray> ReadWholeFile(const QString& nativePath, QString* erro
         return fail(kindProblem(info));
     const int fd = ::open(QFile::encodeName(nativePath).constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
     if (fd < 0) return fail(QString::fromLocal8Bit(std::strerror(errno)));
-    struct FdCloser {
-        int fd;
-        ~FdCloser() { ::close(fd); }
-    } closer{fd};
+    const FdCloser closer{fd};
     if (::fstat(fd, &info) != 0) return fail(QString::fromLocal8Bit(std::strerror(errno)));
     if (const QString problem = kindProblem(info); !problem.isEmpty()) return fail(problem);
+    return readToEnd(fd, info.st_size, error);
+}
 
-    QByteArray bytes;
-    bytes.resize(static_cast<qsizetype>(info.st_size));
-    qsizetype done = 0;
-    for (;;) {
-        // The file can grow while it is read: never past the cap.
-        if (done == bytes.size()) {
-            if (bytes.size() > kLargestReadFile) return fail(QStringLiteral("too large (more than %1 bytes)").arg(kLargestReadFile));
-            bytes.resize(std::min<qsizetype>(bytes.size() + 65536, kLargestReadFile + 1));
-        }
-        const ssize_t n = ::read(fd, bytes.data() + done, static_cast<size_t>(bytes.size() - done));
-        if (n < 0 && errno == EINTR) continue;
-        if (n < 0) return fail(QString::fromLocal8Bit(std::strerror(errno)));
-        if (n == 0) break;
-        done += n;
-    }
-    bytes.truncate(done);
-    return bytes;
+std::optional<QByteArray> ReadGivenFile(const QString& nativePath, QString* error) {
+    struct stat info {};
+    const QByteArray name = QFile::encodeName(nativePath);
+    if (::stat(name.constData(), &info) != 0 || !S_ISFIFO(info.st_mode)) return ReadWholeFile(nativePath, error);
+    const int fd = ::open(name.constData(), O_RDONLY | O_CLOEXEC);
+    if (fd < 0) return failRead(error, QString::fromLocal8Bit(std::strerror(errno)));
+    const FdCloser closer{fd};
+    return readToEnd(fd, 0, error);
 }
 
 namespace {
