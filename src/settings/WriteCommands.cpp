@@ -37,7 +37,7 @@ std::optional<SectionEdits> editsOfCommandLine(const Options& options) {
 }
 
 std::optional<QByteArray> readInput(const QString& file) {
-    if (file != QLatin1String("-")) return ReadWholeFile(file);
+    if (file != QLatin1String("-")) return ReadGivenFile(file);
     QFile in;
     if (!in.open(stdin, QIODevice::ReadOnly)) return std::nullopt;
     return in.readAll();

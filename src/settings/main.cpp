@@ -5,6 +5,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <csignal>
+
 namespace {
 
 const char* const kUsage = R"(Usage: brimo-settings COMMAND [OPTION...] [ARGUMENT...]
@@ -38,7 +40,8 @@ Exit status:
   0  done, and nothing needed changing (get, and export to "-", always so)
   1  done, and some user's files changed (with --check: would change)
   2  refused: a bad option, unknown key, value that is no number, value out
-     of its choices, or double quote in a text; nothing was written
+     of its choices, double quote or control character in a text; nothing
+     was written
   3  some prefix failed (reported); the other prefixes went on
 
 See brimo-settings(1).
@@ -48,6 +51,9 @@ See brimo-settings(1).
 
 int main(int argc, char** argv) {
     using namespace brimo;
+    // A write past the file size limit then fails with EFBIG and is reported
+    // as any failed write, instead of killing the tool.
+    std::signal(SIGXFSZ, SIG_IGN);
     QStringList arguments;
     for (int i = 1; i < argc; ++i) arguments.append(QString::fromLocal8Bit(argv[i]));
 
