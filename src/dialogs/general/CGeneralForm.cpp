@@ -3,6 +3,7 @@
 #include "dialogs/general/GeneralIcon.h"
 #include "model/GeneralLoad.h"
 #include "dialogs/general/ProgramLocations.h"
+#include "forms/AccessibleNames.h"
 #include "forms/CommitFailureReport.h"
 #include "forms/DesignFont.h"
 #include "forms/WindowServices.h"
@@ -157,6 +158,7 @@ void CGeneralForm::ProgramLocation_Click(const ProgramLocation& location) {
 
 void CGeneralForm::setCaptions(std::span<const CaptionRow> rows) {
     for (const CaptionRow& row : rows) SetCaption(control(QLatin1String(row.control)), legends_.GetLegends(row.legend));
+    NameControls(this);
 }
 
 void CGeneralForm::sweepTabs(std::span<const SweepStep> steps) {
@@ -164,6 +166,7 @@ void CGeneralForm::sweepTabs(std::span<const SweepStep> steps) {
         controls_.tabs->setCurrentIndex(step.tab);
         controls_.tabs->setTabText(controls_.tabs->currentIndex(), legends_.GetLegends(step.legend));
     }
+    NameControls(this); // the tab captions are in the names too
 }
 
 GeneralControlState CGeneralForm::controlState() const {
