@@ -128,6 +128,8 @@ QString ownName(const QWidget* control) {
     if (qobject_cast<QPushButton*>(neighbour) && !qobject_cast<const QAbstractButton*>(control))
         if (QString caption = captionOf(neighbour); !caption.isEmpty())
             return frameTitleOf(control).isEmpty() ? caption : frameTitleOf(control) + QStringLiteral(", ") + caption;
+    // A second field on a labelled line shares the line's label.
+    if (QLabel* row = lineOf(control).rowLabel) return captionOf(row);
     return frameTitleOf(control);
 }
 
