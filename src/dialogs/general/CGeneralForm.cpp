@@ -166,7 +166,6 @@ void CGeneralForm::sweepTabs(std::span<const SweepStep> steps) {
         controls_.tabs->setCurrentIndex(step.tab);
         controls_.tabs->setTabText(controls_.tabs->currentIndex(), legends_.GetLegends(step.legend));
     }
-    NameControls(this); // the tab captions are in the names too
 }
 
 GeneralControlState CGeneralForm::controlState() const {
