@@ -40,10 +40,10 @@ const Form kForms[] = {
     {"drawing.txt", [](FormServices& s) { return s.show(new CVarGlobale); }},
 };
 
-// Legend files of the given languages, whose line n reads "<language> n".
-void writeLegends(const ScratchPrefix& prefix, std::initializer_list<const char*> languages) {
+// French and German legends, whose line n reads "FRA n" and "DEU n".
+void writeLegends(const ScratchPrefix& prefix) {
     prefix.writeZorelIni(QStringLiteral("C:\\Zorel"), QStringLiteral("C:\\Zorel\\Var"), QStringLiteral("jo"));
-    for (const char* language : languages) {
+    for (const char* language : {"FRA", "DEU"}) {
         QByteArray legends;
         for (int n = 1; n <= 174; ++n) legends += "0000 " + QByteArray(language) + ' ' + QByteArray::number(n) + "\r\n";
         prefix.write(QStringLiteral("C:\\Zorel\\Lang\\ZorelMsg_%1.txt").arg(QLatin1String(language)), legends);
@@ -51,7 +51,7 @@ void writeLegends(const ScratchPrefix& prefix, std::initializer_list<const char*
 }
 
 // What a screen reader hears of each control that takes the focus, and of
-// each tab, in alphabetical order; a row of tabs says its current tab.
+// each tab, in alphabetical order (a row of tabs is heard by its tabs).
 QStringList spokenNames(QWidget* form) {
     QStringList names;
     for (QWidget* w : form->findChildren<QWidget*>()) {
@@ -70,7 +70,7 @@ QStringList spokenNames(QWidget* form) {
 // language switch of the general dialog renames all at once.
 TEST(FormSnapshot, EveryControlSaysANameOfItsOwnInTheLegendsLanguage) {
     ScratchPrefix prefix;
-    writeLegends(prefix, {"FRA", "DEU"});
+    writeLegends(prefix);
     for (const Form& form : kForms) {
         FormServices services;
         services.load();
@@ -91,7 +91,7 @@ TEST(FormSnapshot, EveryControlSaysANameOfItsOwnInTheLegendsLanguage) {
 
 TEST(FormSnapshot, EveryFormAsBuiltAndLoaded) {
     ScratchPrefix prefix;
-    writeLegends(prefix, {"FRA"});
+    writeLegends(prefix);
     for (const Form& form : kForms) {
         FormServices services;
         services.load();
