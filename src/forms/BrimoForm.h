@@ -30,7 +30,8 @@ protected:
     // No form has a button bound to Escape: the key closes nothing.
     void keyPressEvent(QKeyEvent* event) override;
     // At the first showing, once the form is built: the keyboard of its
-    // groups of option buttons.
+    // groups of option buttons, and the names of its controls for screen
+    // readers (a form whose captions change names them again).
     void showEvent(QShowEvent* event) override;
 
 private:

@@ -66,6 +66,7 @@ void ShowInformationBox(const QString& text, const QString& title) {
         return;
     }
     QMessageBox box(QMessageBox::Information, title, text, QMessageBox::Ok);
+    box.setAccessibleDescription(text);
     box.setWindowModality(Qt::ApplicationModal);
     box.exec();
 }
@@ -73,6 +74,7 @@ void ShowInformationBox(const QString& text, const QString& title) {
 bool AskYesNoCritical(const QString& text, const QString& title) {
     if (answerer()) return answerer()({text, title, 20});
     QMessageBox box(QMessageBox::Critical, title, text, QMessageBox::Yes | QMessageBox::No);
+    box.setAccessibleDescription(text);
     box.setWindowModality(Qt::ApplicationModal);
     return box.exec() == QMessageBox::Yes;
 }

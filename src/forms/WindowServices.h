@@ -37,7 +37,8 @@ struct MessageBoxCall {
 };
 void SetMessageBoxAnswerer(std::function<bool(const MessageBoxCall&)> answerer);
 
-// Message box of flags 4160: information icon, one OK button, modal.
+// Message box of flags 4160: information icon, one OK button, modal. Screen
+// readers announce both boxes as alerts and read their text.
 void ShowInformationBox(const QString& text, const QString& title);
 // Message box of flags 20: critical icon, Yes and No; true for Yes.
 bool AskYesNoCritical(const QString& text, const QString& title);

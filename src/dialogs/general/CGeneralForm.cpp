@@ -3,6 +3,7 @@
 #include "dialogs/general/GeneralIcon.h"
 #include "model/GeneralLoad.h"
 #include "dialogs/general/ProgramLocations.h"
+#include "forms/AccessibleNames.h"
 #include "forms/CommitFailureReport.h"
 #include "forms/DesignFont.h"
 #include "forms/WindowServices.h"
@@ -179,6 +180,7 @@ void CGeneralForm::ProgramLocation_Click(const ProgramLocation& location) {
 void CGeneralForm::setCaptions(std::span<const CaptionRow> rows) {
     for (const CaptionRow& row : rows)
         SetCaption(controls_.byName.value(QLatin1String(row.control)), legends_.GetLegends(row.legend));
+    NameControls(this);
 }
 
 void CGeneralForm::sweepTabs(std::span<const SweepStep> steps) {

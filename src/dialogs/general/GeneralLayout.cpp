@@ -1,5 +1,6 @@
 #include "dialogs/general/GeneralLayout.h"
 
+#include "forms/AccessibleNames.h"
 #include "forms/RuleField.h"
 #include "forms/WindowServices.h"
 #include "model/FieldRules.h"
@@ -15,6 +16,7 @@
 
 #include <array>
 #include <span>
+#include <utility>
 
 namespace brimo {
 
@@ -243,6 +245,10 @@ constexpr auto kTabOrder = std::to_array<const char*>({
 });
 static_assert(kTabOrder.size() == 73);
 
+// The two dimensions of the frame share their label: the sketch tells them
+// apart, Val1 standing above it and Val0 beside it.
+constexpr std::pair<const char*, const char*> kNameQualifiers[] = {{"Val1", "x"}, {"Val0", "y"}};
+
 // A click moves between empty and ticked; the grey state comes from a stored
 // value alone.
 class FlagCheckBox : public QCheckBox {
@@ -327,6 +333,8 @@ GeneralControls BuildGeneralControls(QWidget* form, const LegendTable& legends, 
     buildTable(kButtons, form, controls, legends, guard);
 
     controls.require<QPushButton>(u"cmdOK")->setDefault(true);
+    for (const auto& [name, qualifier] : kNameQualifiers)
+        SetNameQualifier(controls.require<QWidget>(QLatin1String(name)), QLatin1String(qualifier));
 
     for (std::size_t i = 1; i < kTabOrder.size(); ++i)
         QWidget::setTabOrder(controls.byName.value(QLatin1String(kTabOrder[i - 1])),
