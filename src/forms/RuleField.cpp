@@ -1,6 +1,6 @@
 #include "forms/RuleField.h"
 
-#include "forms/WindowServices.h"
+#include "forms/BrimoForm.h"
 #include "model/LegendNumbers.h"
 
 #include <QFocusEvent>
@@ -22,7 +22,10 @@ void RuleField::ValidateOnLeave() {
     if (!outcome.refused) return;
 
     guard_.underway = true;
-    ShowInformationBox(legends_.GetLegends(Legend::RefusalText), legends_.GetLegends(Legend::RefusalTitle));
+    // The refusal is a box of the field's form.
+    auto* form = qobject_cast<BrimoForm*>(window());
+    const MessageBoxes boxes = form ? form->messageBoxes() : MessageBoxes();
+    boxes.ShowInformationBox(legends_.GetLegends(Legend::RefusalText), legends_.GetLegends(Legend::RefusalTitle));
     bringForwardInTabs();
     setFocus(Qt::OtherFocusReason);
     guard_.underway = false;

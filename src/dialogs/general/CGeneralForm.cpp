@@ -146,7 +146,7 @@ void CGeneralForm::cmdOK_Click() {
         return;
     }
     if (!outcome.ok) {
-        ReportCommitFailure(navigator_, outcome);
+        ReportCommitFailure(*this, navigator_, outcome);
         return;
     }
     navigator_.End(0);
@@ -209,7 +209,7 @@ GeneralControlState CGeneralForm::controlState() const {
 
 // Nothing is written: the field is shown with its edits, ready to be put right.
 void CGeneralForm::refuseUnwritableQuote(const UnwritableField& field) {
-    ShowInformationBox(UnwritableQuoteMessage(field), QStringLiteral("Brimo"));
+    messageBoxes().ShowInformationBox(UnwritableQuoteMessage(field), QStringLiteral("Brimo"));
     QLineEdit* text = fields_.value(field.control);
     showTabOf(text);
     text->setFocus(Qt::OtherFocusReason);

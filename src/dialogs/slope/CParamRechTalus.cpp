@@ -164,7 +164,7 @@ SlopeControlState CParamRechTalus::ControlState() const {
 void CParamRechTalus::Command1_Click() {
     const CommitOutcome outcome = CommitSlopeVariables(info_, ControlState());
     if (!outcome.ok) {
-        ReportCommitFailure(navigator_, outcome);
+        ReportCommitFailure(*this, navigator_, outcome);
         return;
     }
     navigator_.End(0);
