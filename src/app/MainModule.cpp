@@ -14,6 +14,8 @@
 #include <QApplication>
 
 #include <cstdio>
+#include <utility>
+
 #include <unistd.h>
 
 namespace brimo {
@@ -119,10 +121,18 @@ int Main(int argc, char* argv[]) {
     QApplication::setFont(DesignFont());
 
     MainModule module;
-    LoadInstallInfo(module.installInfo);
+    // A file that is there but cannot be read is told on stderr, and the
+    // dialog opens as without it; its commit then refuses that file.
+    const auto report = [](const QString& error) {
+        if (!error.isEmpty()) std::fprintf(stderr, "Brimo2010: %s\n", error.toLocal8Bit().constData());
+    };
+    QString error;
+    LoadInstallInfo(module.installInfo, &error);
+    report(std::exchange(error, {}));
     // A commit cut off by a kill is finished or undone before Brimo.ini is read.
     RecoverInterruptedCommit(module.installInfo);
-    LoadGeneralVariables(module.installInfo, module.generalVariables);
+    LoadGeneralVariables(module.installInfo, module.generalVariables, &error);
+    report(error);
     module.LoadLegends();
 
     switch (DialogForCommandLine(commandLine)) {

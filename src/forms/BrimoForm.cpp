@@ -1,5 +1,6 @@
 #include "forms/BrimoForm.h"
 
+#include "forms/AccessibleNames.h"
 #include "forms/OptionGroupKeys.h"
 
 #include <QKeyEvent>
@@ -31,7 +32,10 @@ void BrimoForm::keyPressEvent(QKeyEvent* event) {
 }
 
 void BrimoForm::showEvent(QShowEvent* event) {
-    if (!groupKeysReady_) UseOptionGroupKeys(this);
+    if (!groupKeysReady_) {
+        UseOptionGroupKeys(this);
+        NameControls(this);
+    }
     groupKeysReady_ = true;
     QDialog::showEvent(event);
 }

@@ -7,6 +7,8 @@
 // A form is handed the services it uses by its constructor, not the whole
 // process.
 
+#include "forms/WindowServices.h"
+
 #include <QDialog>
 
 #include <utility>
@@ -20,6 +22,8 @@ public:
     BrimoForm();
     // The load step, run each time the window is built and shown.
     virtual void Form_Load() {}
+    // The message boxes that the form and its controls show.
+    MessageBoxes& messageBoxes() { return messageBoxes_; }
 
 protected:
     // A fixed single border without minimise and maximise buttons.
@@ -30,10 +34,12 @@ protected:
     // No form has a button bound to Escape: the key closes nothing.
     void keyPressEvent(QKeyEvent* event) override;
     // At the first showing, once the form is built: the keyboard of its
-    // groups of option buttons.
+    // groups of option buttons, and the names of its controls for screen
+    // readers (a form whose captions change names them again).
     void showEvent(QShowEvent* event) override;
 
 private:
+    MessageBoxes messageBoxes_;
     bool groupKeysReady_ = false;
 };
 

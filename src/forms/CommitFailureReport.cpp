@@ -4,7 +4,7 @@
 
 namespace brimo {
 
-void ReportCommitFailure(Navigator& navigator, const CommitOutcome& outcome) {
+void ReportCommitFailure(BrimoForm& form, Navigator& navigator, const CommitOutcome& outcome) {
     QString text = QStringLiteral("Le fichier %1 n'a pas pu être écrit : %2.\r\n"
                                   "Aucun fichier n'a été modifié.\r\n\r\n"
                                   "The file %1 could not be written: %2.\r\n"
@@ -13,7 +13,7 @@ void ReportCommitFailure(Navigator& navigator, const CommitOutcome& outcome) {
     if (outcome.busy)
         text += QStringLiteral("\r\n\r\nLa fenêtre reste ouverte : validez à nouveau dans un instant.\r\n"
                                "The window stays open: press OK again in a moment.");
-    ShowInformationBox(text, QStringLiteral("Brimo"));
+    form.messageBoxes().ShowInformationBox(text, QStringLiteral("Brimo"));
     if (!outcome.busy) navigator.End(1);
 }
 

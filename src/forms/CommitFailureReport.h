@@ -4,6 +4,7 @@
 //
 // What the user is told when a commit cannot write its files.
 
+#include "forms/BrimoForm.h"
 #include "forms/Navigator.h"
 #include "model/GeneralCommit.h"
 
@@ -13,7 +14,7 @@ namespace brimo {
 // with a non-zero status. Nothing of either file has changed by then. When
 // another program was writing the files, the dialog stays open instead, with
 // its edits, so that OK can be pressed again.
-void ReportCommitFailure(Navigator& navigator, const CommitOutcome& outcome);
+void ReportCommitFailure(BrimoForm& form, Navigator& navigator, const CommitOutcome& outcome);
 
 // The refusal of a field whose double quote would end its Lisp string, in
 // French and in English, naming the field.

@@ -4,6 +4,6 @@
 
 namespace brimo {
 
-bool MessageBoxLegendQuestion::ask(const QString& text, const QString& title) { return AskYesNoCritical(text, title); }
+bool MessageBoxLegendQuestion::ask(const QString& text, const QString& title) { return boxes_.AskYesNoCritical(text, title); }
 
 } // namespace brimo

@@ -6,6 +6,7 @@
 // Yes ends the process through the navigator.
 
 #include "forms/Navigator.h"
+#include "forms/WindowServices.h"
 #include "model/LegendTable.h"
 
 namespace brimo {
@@ -18,6 +19,7 @@ public:
 
 private:
     Navigator& navigator_;
+    MessageBoxes boxes_;
 };
 
 } // namespace brimo

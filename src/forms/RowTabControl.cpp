@@ -1,14 +1,106 @@
 #include "forms/RowTabControl.h"
 
+#include <QAccessible>
+#include <QAccessibleWidget>
 #include <QKeyEvent>
+#include <QHash>
 #include <QMouseEvent>
+#include <QPointer>
 #include <QStackedWidget>
 #include <QStyleOptionFocusRect>
 #include <QStyleOptionTab>
 #include <QStyleOptionTabWidgetFrame>
 #include <QStylePainter>
 
+#include <utility>
+
 namespace brimo {
+
+namespace {
+
+// One tab of the control, for screen readers: it has no widget of its own.
+class AccessibleRowTab : public QAccessibleInterface, public QAccessibleActionInterface {
+public:
+    AccessibleRowTab(RowTabControl* control, int index) : control_(control), index_(index) {}
+
+    bool isValid() const override { return control_ && index_ < control_->count(); }
+    QObject* object() const override { return nullptr; }
+    QWindow* window() const override { return control_ ? control_->window()->windowHandle() : nullptr; }
+    QAccessibleInterface* parent() const override { return QAccessible::queryAccessibleInterface(control_.data()); }
+    QAccessibleInterface* child(int) const override { return nullptr; }
+    QAccessibleInterface* childAt(int, int) const override { return nullptr; }
+    int childCount() const override { return 0; }
+    int indexOfChild(const QAccessibleInterface*) const override { return -1; }
+    QString text(QAccessible::Text t) const override {
+        return t == QAccessible::Name && isValid() ? control_->tabText(index_) : QString();
+    }
+    void setText(QAccessible::Text, const QString&) override {}
+    QRect rect() const override {
+        if (!isValid()) return {};
+        const QRect local = control_->tabRect(index_);
+        return {control_->mapToGlobal(local.topLeft()), local.size()};
+    }
+    QAccessible::Role role() const override { return QAccessible::PageTab; }
+    QAccessible::State state() const override {
+        QAccessible::State s;
+        if (!isValid()) return s;
+        const bool current = control_->currentIndex() == index_;
+        s.selectable = s.focusable = true;
+        s.selected = current;
+        s.focused = current && control_->hasFocus();
+        s.disabled = !control_->isEnabled();
+        s.invisible = !control_->isVisible();
+        return s;
+    }
+    void* interface_cast(QAccessible::InterfaceType type) override {
+        return type == QAccessible::ActionInterface ? static_cast<QAccessibleActionInterface*>(this) : nullptr;
+    }
+
+    QStringList actionNames() const override { return {pressAction()}; }
+    void doAction(const QString& name) override {
+        if (isValid() && name == pressAction()) control_->setCurrentIndex(index_);
+    }
+    QStringList keyBindingsForAction(const QString&) const override { return {}; }
+
+private:
+    QPointer<RowTabControl> control_;
+    int index_;
+};
+
+// The control: its tabs, then its pages.
+class AccessibleRowTabControl : public QAccessibleWidget {
+public:
+    explicit AccessibleRowTabControl(RowTabControl* control) : QAccessibleWidget(control, QAccessible::PageTabList) {}
+    ~AccessibleRowTabControl() override {
+        for (QAccessible::Id id : std::as_const(tabs_)) QAccessible::deleteAccessibleInterface(id);
+    }
+
+    int childCount() const override { return control()->count() + 1; }
+    QAccessibleInterface* child(int index) const override {
+        if (index < 0 || index > control()->count()) return nullptr;
+        if (index == control()->count()) return QAccessible::queryAccessibleInterface(pages());
+        if (!tabs_.contains(index))
+            tabs_.insert(index, QAccessible::registerAccessibleInterface(new AccessibleRowTab(control(), index)));
+        return QAccessible::accessibleInterface(tabs_.value(index));
+    }
+    int indexOfChild(const QAccessibleInterface* child) const override {
+        if (child && child->object() == pages()) return control()->count();
+        for (auto it = tabs_.cbegin(); it != tabs_.cend(); ++it)
+            if (QAccessible::accessibleInterface(it.value()) == child) return it.key();
+        return -1;
+    }
+    QAccessibleInterface* focusChild() const override {
+        return control()->hasFocus() && control()->currentIndex() >= 0 ? child(control()->currentIndex())
+                                                                       : QAccessibleWidget::focusChild();
+    }
+
+private:
+    RowTabControl* control() const { return static_cast<RowTabControl*>(widget()); }
+    QWidget* pages() const { return control()->findChild<QStackedWidget*>(QString(), Qt::FindDirectChildrenOnly); }
+    mutable QHash<int, QAccessible::Id> tabs_;
+};
+
+} // namespace
 
 RowTabControl::RowTabControl(int tabsPerRow, QWidget* parent)
     : QWidget(parent), tabsPerRow_(tabsPerRow), stack_(new QStackedWidget(this)) {
@@ -16,8 +108,28 @@ RowTabControl::RowTabControl(int tabsPerRow, QWidget* parent)
     setAttribute(Qt::WA_MacShowFocusRect);
     connect(stack_, &QStackedWidget::currentChanged, this, [this](int index) {
         update();
+        announceCurrentTab();
         emit currentChanged(index);
     });
+    static const bool accessible = (QAccessible::installFactory([](const QString& key, QObject* object) {
+        return key == QLatin1String("brimo::RowTabControl")
+                   ? static_cast<QAccessibleInterface*>(new AccessibleRowTabControl(static_cast<RowTabControl*>(object)))
+                   : nullptr;
+    }), true);
+    Q_UNUSED(accessible);
+}
+
+// The focus on the control is the focus on its current tab.
+void RowTabControl::announceCurrentTab() {
+    if (!hasFocus() || currentIndex() < 0 || !QAccessible::isActive()) return;
+    QAccessibleEvent event(this, QAccessible::Focus);
+    event.setChild(currentIndex());
+    QAccessible::updateAccessibility(&event);
+}
+
+void RowTabControl::focusInEvent(QFocusEvent* event) {
+    QWidget::focusInEvent(event);
+    announceCurrentTab();
 }
 
 int RowTabControl::addTab(QWidget* page, const QString& caption) {

@@ -12,6 +12,9 @@
 // Ctrl+PgUp to the previous one, round the end, from anywhere in the control;
 // on the focused tabs the arrows Right and Down, Left and Up, and Home and
 // End move the current tab, without going round.
+//
+// Screen readers find it as a list of tabs, each tab named by its caption,
+// the current one selected, followed by the current page.
 
 #include <QStringList>
 #include <QWidget>
@@ -57,12 +60,14 @@ protected:
     void keyPressEvent(QKeyEvent* event) override;
     void resizeEvent(QResizeEvent* event) override;
     void changeEvent(QEvent* event) override;
+    void focusInEvent(QFocusEvent* event) override;
 
 private:
     int rowHeight() const;
     int headerHeight() const { return rowCount() * rowHeight(); }
     void initTabOption(QStyleOptionTab* option, int index) const;
     void placeStack();
+    void announceCurrentTab();
 
     const int tabsPerRow_;
     QStackedWidget* stack_;

@@ -1,6 +1,6 @@
 #include "forms/RuleField.h"
 
-#include "forms/WindowServices.h"
+#include "forms/BrimoForm.h"
 #include "model/LegendNumbers.h"
 
 #include <QFocusEvent>
@@ -9,15 +9,8 @@
 
 namespace brimo {
 
-namespace {
-// While a refusal is being shown and the focus put back, other fields that
-// lose the focus on the way do not run their rules: two fields holding bad
-// texts would otherwise take the focus from each other without end.
-bool refusalUnderway = false;
-} // namespace
-
-RuleField::RuleField(const FieldRule& rule, const LegendTable& legends, QWidget* parent)
-    : QLineEdit(parent), rule_(rule), legends_(legends) {
+RuleField::RuleField(const FieldRule& rule, const LegendTable& legends, RefusalGuard& guard, QWidget* parent)
+    : QLineEdit(parent), rule_(rule), legends_(legends), guard_(guard) {
     setObjectName(QString::fromLatin1(rule.control));
 }
 
@@ -28,11 +21,14 @@ void RuleField::ValidateOnLeave() {
     if (outcome.text != text()) setText(outcome.text);
     if (!outcome.refused) return;
 
-    refusalUnderway = true;
-    ShowInformationBox(legends_.GetLegends(Legend::RefusalText), legends_.GetLegends(Legend::RefusalTitle));
+    guard_.underway = true;
+    // The refusal is a box of the field's form.
+    auto* form = qobject_cast<BrimoForm*>(window());
+    const MessageBoxes boxes = form ? form->messageBoxes() : MessageBoxes();
+    boxes.ShowInformationBox(legends_.GetLegends(Legend::RefusalText), legends_.GetLegends(Legend::RefusalTitle));
     bringForwardInTabs();
     setFocus(Qt::OtherFocusReason);
-    refusalUnderway = false;
+    guard_.underway = false;
 }
 
 // A field on a tab that is not showing cannot hold the focus: show its tab.
@@ -54,7 +50,7 @@ void RuleField::focusOutEvent(QFocusEvent* event) {
     // Only a move of the focus inside the window is a leave; a window that
     // goes to the background or a menu that opens is none.
     if (event->reason() == Qt::ActiveWindowFocusReason || event->reason() == Qt::PopupFocusReason) return;
-    if (refusalUnderway) return;
+    if (guard_.underway) return;
     ValidateOnLeave();
 }
 

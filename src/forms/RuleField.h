@@ -13,10 +13,18 @@
 
 namespace brimo {
 
+// Shared by the fields of one form: while a refusal is shown and the focus
+// put back, the other fields that lose the focus on the way do not run their
+// rules; two fields holding bad texts would otherwise take the focus from
+// each other without end.
+struct RefusalGuard {
+    bool underway = false;
+};
+
 class RuleField : public QLineEdit {
     Q_OBJECT
 public:
-    RuleField(const FieldRule& rule, const LegendTable& legends, QWidget* parent = nullptr);
+    RuleField(const FieldRule& rule, const LegendTable& legends, RefusalGuard& guard, QWidget* parent = nullptr);
 
     const FieldRule& rule() const { return rule_; }
 
@@ -32,6 +40,7 @@ private:
 
     const FieldRule& rule_;
     const LegendTable& legends_;
+    RefusalGuard& guard_;
 };
 
 } // namespace brimo

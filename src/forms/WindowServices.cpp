@@ -49,30 +49,21 @@ void CentreOnScreen(QWidget* window) {
     window->move(TwipsToPixels(left), TwipsToPixels(top));
 }
 
-namespace {
-std::function<bool(const MessageBoxCall&)>& answerer() {
-    static std::function<bool(const MessageBoxCall&)> instance;
-    return instance;
-}
-} // namespace
-
-void SetMessageBoxAnswerer(std::function<bool(const MessageBoxCall&)> answererFunction) {
-    answerer() = std::move(answererFunction);
-}
-
-void ShowInformationBox(const QString& text, const QString& title) {
-    if (answerer()) {
-        answerer()({text, title, 4160});
+void MessageBoxes::ShowInformationBox(const QString& text, const QString& title) const {
+    if (answerer_) {
+        answerer_({text, title, 4160});
         return;
     }
     QMessageBox box(QMessageBox::Information, title, text, QMessageBox::Ok);
+    box.setAccessibleDescription(text);
     box.setWindowModality(Qt::ApplicationModal);
     box.exec();
 }
 
-bool AskYesNoCritical(const QString& text, const QString& title) {
-    if (answerer()) return answerer()({text, title, 20});
+bool MessageBoxes::AskYesNoCritical(const QString& text, const QString& title) const {
+    if (answerer_) return answerer_({text, title, 20});
     QMessageBox box(QMessageBox::Critical, title, text, QMessageBox::Yes | QMessageBox::No);
+    box.setAccessibleDescription(text);
     box.setWindowModality(Qt::ApplicationModal);
     return box.exec() == QMessageBox::Yes;
 }

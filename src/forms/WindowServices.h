@@ -28,18 +28,27 @@ double ScreenHeightTwips();
 // Centres the window: Top = screen height / 2 - height / 2, then Left likewise.
 void CentreOnScreen(QWidget* window);
 
-// Tests answer the message boxes in place of a person: the answerer gets
-// the text, the title and the flags (4160 or 20) and returns true for Yes.
 struct MessageBoxCall {
     QString text;
     QString title;
-    int flags;
+    int flags; // 4160 or 20
 };
-void SetMessageBoxAnswerer(std::function<bool(const MessageBoxCall&)> answerer);
 
-// Message box of flags 4160: information icon, one OK button, modal.
-void ShowInformationBox(const QString& text, const QString& title);
-// Message box of flags 20: critical icon, Yes and No; true for Yes.
-bool AskYesNoCritical(const QString& text, const QString& title);
+// The message boxes of one form (or of the program's start). Screen readers
+// announce both boxes as alerts and read their text.
+class MessageBoxes {
+public:
+    // Tests answer in place of a person: the answerer gets the box and
+    // returns true for Yes.
+    void setAnswerer(std::function<bool(const MessageBoxCall&)> answerer) { answerer_ = std::move(answerer); }
+
+    // Message box of flags 4160: information icon, one OK button, modal.
+    void ShowInformationBox(const QString& text, const QString& title) const;
+    // Message box of flags 20: critical icon, Yes and No; true for Yes.
+    bool AskYesNoCritical(const QString& text, const QString& title) const;
+
+private:
+    std::function<bool(const MessageBoxCall&)> answerer_;
+};
 
 } // namespace brimo

@@ -95,6 +95,12 @@ void removeFolder(const QString& history, const QString& folder) {
     if (QDir().rename(folder, doomed)) QDir(doomed).removeRecursively();
 }
 
+void removeStaged(const QString& history) {
+    if (!QFileInfo(history + QLatin1Char('/') + kStaged).isDir()) return;
+    removeFolder(history, history + QLatin1Char('/') + kStaged);
+    SyncFolder(history);
+}
+
 } // namespace
 
 QString HistoryFolder(const QString& nativeIni) {
@@ -119,7 +125,7 @@ bool StageHistoryEntry(const QString& nativeIni, const HistoryEntry& entry, QStr
     }
     for (const QString& name : QDir(history).entryList(QDir::Dirs | QDir::NoDotAndDotDot | QDir::Hidden))
         if (name.startsWith(kPartialPrefix)) QDir(history + QLatin1Char('/') + name).removeRecursively();
-    DropStagedHistoryEntry(nativeIni);
+    removeStaged(history);
 
     const QString partial = partialFolder(history);
     if (!QDir().mkdir(partial)) {
@@ -131,7 +137,10 @@ bool StageHistoryEntry(const QString& nativeIni, const HistoryEntry& entry, QStr
         if (written && file.bytes) written = WriteWholeFile(partial + QLatin1Char('/') + file.name, *file.bytes, error);
     const QString staged = history + QLatin1Char('/') + kStaged;
     if (written && (!SyncFolder(partial) || !renameFolder(partial, staged, error))) written = false;
-    if (!written) QDir(partial).removeRecursively();
+    if (!written) {
+        QDir(partial).removeRecursively();
+        QDir().rmdir(history); // when it holds nothing else
+    }
     return written && SyncFolder(history);
 }
 
@@ -159,10 +168,8 @@ std::optional<int> KeepStagedHistoryEntry(const QString& nativeIni) {
 
 void DropStagedHistoryEntry(const QString& nativeIni) {
     const QString history = HistoryFolder(nativeIni);
-    if (QFileInfo(history + QLatin1Char('/') + kStaged).isDir()) {
-        removeFolder(history, history + QLatin1Char('/') + kStaged);
-        SyncFolder(history);
-    }
+    removeStaged(history);
+    QDir().rmdir(history); // when it holds nothing else
 }
 
 QString CommitProgramName() {

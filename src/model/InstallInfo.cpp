@@ -7,8 +7,8 @@ namespace brimo {
 
 QString ZorelIniPath() { return GetWindowsFolder() + QStringLiteral("\\zorel.ini"); }
 
-void LoadInstallInfo(InstallInfo& info) {
-    const ProfileDocument ini = LoadProfile(ZorelIniPath());
+void LoadInstallInfo(InstallInfo& info, QString* error) {
+    const ProfileDocument ini = LoadProfile(ZorelIniPath(), error);
     const struct {
         const char* section;
         const char* key;

@@ -19,7 +19,9 @@ struct InstallInfo {
 };
 
 // Reads the six values, in their order, from GetWindowsFolder() + "\zorel.ini".
-void LoadInstallInfo(InstallInfo& info);
+// A zorel.ini that is there but cannot be read reads as a missing one and
+// sets `error` (see LoadProfile).
+void LoadInstallInfo(InstallInfo& info, QString* error = nullptr);
 
 // Paths joined by plain concatenation: no separator is tested or added.
 QString ZorelIniPath();

@@ -7,36 +7,86 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
 #include <vector>
 
 #include <fcntl.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace brimo {
 
 namespace {
 constexpr int kMaxLinkDepth = 40; // as the system counts a loop of links
+
+std::optional<QByteArray> failRead(QString* error, const QString& why) {
+    if (error) *error = why;
+    return std::nullopt;
 }
 
-std::optional<QByteArray> ReadWholeFile(const QString& nativePath, QString* error) {
-    if (QFileInfo(nativePath).isDir()) {
-        if (error) *error = QStringLiteral("a folder stands where the file should be");
-        return std::nullopt;
+// Reads `fd` to its end, `expected` bytes or more, but never past the cap:
+// a file can grow while it is read, a pipe has no end in sight.
+std::optional<QByteArray> readToEnd(int fd, qint64 expected, QString* error) {
+    QByteArray bytes;
+    bytes.resize(static_cast<qsizetype>(expected));
+    qsizetype done = 0;
+    for (;;) {
+        if (done == bytes.size()) {
+            if (bytes.size() > kLargestReadFile)
+                return failRead(error, QStringLiteral("too large (more than %1 bytes)").arg(kLargestReadFile));
+            bytes.resize(std::min<qsizetype>(bytes.size() + 65536, kLargestReadFile + 1));
+        }
+        const ssize_t n = ::read(fd, bytes.data() + done, static_cast<size_t>(bytes.size() - done));
+        if (n < 0 && errno == EINTR) continue;
+        if (n < 0) return failRead(error, QString::fromLocal8Bit(std::strerror(errno)));
+        if (n == 0) break;
+        done += n;
     }
-    QFile file(nativePath);
-    if (!file.open(QIODevice::ReadOnly)) {
-        if (error) *error = file.errorString();
-        return std::nullopt;
-    }
-    QByteArray bytes = file.readAll();
-    if (file.error() != QFileDevice::NoError) {
-        if (error) *error = file.errorString();
-        return std::nullopt;
-    }
+    bytes.truncate(done);
     return bytes;
+}
+
+struct FdCloser {
+    int fd;
+    ~FdCloser() { ::close(fd); }
+};
+
+} // namespace
+
+std::optional<QByteArray> ReadWholeFile(const QString& nativePath, QString* error) {
+    const auto fail = [error](const QString& why) { return failRead(error, why); };
+    const auto kindProblem = [](const struct stat& info) -> QString {
+        if (S_ISDIR(info.st_mode)) return QStringLiteral("a folder stands where the file should be");
+        if (!S_ISREG(info.st_mode)) return QStringLiteral("not a regular file");
+        if (info.st_size > kLargestReadFile)
+            return QStringLiteral("too large (%1 bytes; at most %2 are read)").arg(info.st_size).arg(kLargestReadFile);
+        return {};
+    };
+    // A device is not even opened (opening some has effects). O_NONBLOCK: a
+    // FIFO put in place meanwhile must not hold the program; fstat then tells
+    // again what was opened.
+    struct stat info {};
+    if (::stat(QFile::encodeName(nativePath).constData(), &info) == 0 && !kindProblem(info).isEmpty())
+        return fail(kindProblem(info));
+    const int fd = ::open(QFile::encodeName(nativePath).constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
+    if (fd < 0) return fail(QString::fromLocal8Bit(std::strerror(errno)));
+    const FdCloser closer{fd};
+    if (::fstat(fd, &info) != 0) return fail(QString::fromLocal8Bit(std::strerror(errno)));
+    if (const QString problem = kindProblem(info); !problem.isEmpty()) return fail(problem);
+    return readToEnd(fd, info.st_size, error);
+}
+
+std::optional<QByteArray> ReadGivenFile(const QString& nativePath, QString* error) {
+    struct stat info {};
+    const QByteArray name = QFile::encodeName(nativePath);
+    if (::stat(name.constData(), &info) != 0 || !S_ISFIFO(info.st_mode)) return ReadWholeFile(nativePath, error);
+    const int fd = ::open(name.constData(), O_RDONLY | O_CLOEXEC);
+    if (fd < 0) return failRead(error, QString::fromLocal8Bit(std::strerror(errno)));
+    const FdCloser closer{fd};
+    return readToEnd(fd, 0, error);
 }
 
 namespace {
@@ -74,16 +124,25 @@ bool folderAndFileWritable(const QString& nativePath, QString* error) {
 namespace {
 
 // The file created or emptied, written, and flushed to the disk.
+// The system's own calls, so that the reason of a short write (a full disk,
+// the file size limit) reaches the report.
 bool writeDurably(const QString& path, const QByteArray& bytes, QString* error) {
-    QFile file(path);
-    if (!file.open(QIODevice::WriteOnly | QIODevice::Truncate) || file.write(bytes) != bytes.size() ||
-        !file.flush() || ::fsync(file.handle()) != 0) {
-        if (error) *error = file.error() != QFileDevice::NoError ? file.errorString() : QString::fromLocal8Bit(std::strerror(errno));
-        file.close();
-        QFile::remove(path);
-        return false;
+    const QByteArray name = QFile::encodeName(path);
+    const int fd = ::open(name.constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
+    bool ok = fd >= 0;
+    for (qsizetype done = 0; ok && done < bytes.size();) {
+        const ssize_t n = ::write(fd, bytes.constData() + done, static_cast<size_t>(bytes.size() - done));
+        if (n < 0 && errno == EINTR) continue;
+        ok = n > 0;
+        done += n;
     }
-    return true;
+    ok = ok && ::fsync(fd) == 0;
+    const int why = errno;
+    if (fd >= 0 && ::close(fd) != 0) ok = false;
+    if (ok) return true;
+    if (error) *error = QString::fromLocal8Bit(std::strerror(why ? why : EIO));
+    ::unlink(name.constData());
+    return false;
 }
 
 QString folderOf(const QString& path) { return QDir::cleanPath(QFileInfo(path).absolutePath()); }

@@ -7,8 +7,19 @@
 
 namespace brimo {
 
-// The whole file, or nothing when it is missing, a folder, or unreadable.
+// The largest file that is read: far above any Brimo.ini in use, far below
+// what would exhaust the memory.
+inline constexpr qint64 kLargestReadFile = qint64(512) << 20;
+
+// The whole file, or nothing with `error` saying why when it is missing,
+// unreadable, larger than kLargestReadFile, or no regular file (a folder, a
+// FIFO, a device, a socket, or a link to one). Never waits for a writer.
 std::optional<QByteArray> ReadWholeFile(const QString& nativePath, QString* error = nullptr);
+
+// A file that the user names on a command line: read as ReadWholeFile reads
+// it, but a pipe too (bash's "<(command)"), waiting for its writer and read to
+// its end, never past kLargestReadFile.
+std::optional<QByteArray> ReadGivenFile(const QString& nativePath, QString* error = nullptr);
 
 // Writes the file through a temporary file in the same folder that is then
 // moved over the old one, so that a failure leaves the old file as it was;

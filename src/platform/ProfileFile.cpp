@@ -8,8 +8,12 @@
 
 namespace brimo {
 
-ProfileDocument LoadProfile(const QString& windowsPath) {
-    return ProfileDocument(ReadWholeFile(ToNativePath(windowsPath)).value_or(QByteArray()));
+ProfileDocument LoadProfile(const QString& windowsPath, QString* error) {
+    const QString native = ToNativePath(windowsPath);
+    QString why;
+    std::optional<QByteArray> bytes = ReadWholeFile(native, &why);
+    if (!bytes && error && QFileInfo::exists(native)) *error = windowsPath + QStringLiteral(": ") + why;
+    return ProfileDocument(std::move(bytes).value_or(QByteArray()));
 }
 
 QString ReadProfileString(const ProfileDocument& profile, const QString& section, const QString& key, int bufferSize) {

@@ -20,8 +20,10 @@ bool WritePrivateProfileString(const QString& section, const QString& key, const
                                const QString& windowsPath, QString* error = nullptr);
 
 // Reads a profile file once for many reads; a missing or unreadable file
-// reads as an empty one.
-ProfileDocument LoadProfile(const QString& windowsPath);
+// reads as an empty one. A file that is there but cannot be read (a folder,
+// no regular file, no right to read, too large) also sets `error`, naming
+// the file by its Windows path; a missing one does not.
+ProfileDocument LoadProfile(const QString& windowsPath, QString* error = nullptr);
 
 // Reads with the contract of GetPrivateProfileStringA from a loaded file.
 QString ReadProfileString(const ProfileDocument& profile, const QString& section, const QString& key,

@@ -24,19 +24,44 @@ QString WinePrefix() {
 
 QString GetWindowsFolder() { return QStringLiteral("C:\\windows"); }
 
+QString DriveFolder(QChar letter) {
+    return WinePrefix() + QStringLiteral("/dosdevices/") + letter.toLower() + QLatin1Char(':');
+}
+
 QString MapWindowsPathText(const QString& windowsPath) {
-    if (windowsPath.startsWith(QLatin1Char('/'))) return windowsPath;
-    // Two backslashes in front name a network share; a path joined from an
+    if (windowsPath.isEmpty()) return {};
+    QString path = windowsPath;
+    path.replace(QLatin1Char('\\'), QLatin1Char('/'));
+    // Two separators in front name a network share; a path joined from an
     // empty folder ("\\Brimo.ini") is one too, and names nothing here.
-    if (windowsPath.startsWith(QLatin1String("\\\\"))) return {};
-    QString rest = windowsPath;
-    QString head;
-    if (rest.size() >= 2 && rest.at(1) == QLatin1Char(':') && rest.at(0).isLetter()) {
-        head = WinePrefix() + QStringLiteral("/dosdevices/") + rest.at(0).toLower() + QLatin1Char(':');
-        rest = rest.mid(2);
+    if (path.startsWith(QLatin1String("//"))) return {};
+    // A drive letter is one of A to Z; without one the path lies on the
+    // current drive, C:, whose current folder is its root.
+    const QChar first = path.at(0);
+    const bool drive = path.size() >= 2 && path.at(1) == QLatin1Char(':') && first.unicode() < 128 && first.isLetter();
+    const QString head = DriveFolder(drive ? first : QLatin1Char('c'));
+    QStringView rest = QStringView(path).mid(drive ? 2 : 0);
+    if (rest.startsWith(QLatin1Char('/'))) rest = rest.mid(1);
+
+    // "." and ".." as Windows resolves them: ".." takes back the last name
+    // and stops at the root of the drive. Doubled separators stay.
+    QList<QStringView> names;
+    for (QStringView name : rest.split(QLatin1Char('/'))) {
+        if (name == u".") continue;
+        if (name == u"..") {
+            while (!names.isEmpty() && names.last().isEmpty()) names.removeLast();
+            if (!names.isEmpty()) names.removeLast();
+            continue;
+        }
+        names.append(name);
     }
-    rest.replace(QLatin1Char('\\'), QLatin1Char('/'));
-    return head + rest;
+    QString mapped = head;
+    for (QStringView name : names) {
+        mapped += QLatin1Char('/');
+        mapped += name;
+    }
+    if (names.isEmpty()) mapped += QLatin1Char('/');
+    return mapped;
 }
 
 namespace {

@@ -20,12 +20,18 @@ void SetWinePrefix(const QString& prefix);
 // ("C:\windows"), the way the platform reports it.
 QString GetWindowsFolder();
 
-// Maps a Windows path text to a native path:
-//   "X:..."  -> $WINEPREFIX/dosdevices/x:...
-//   "\..."   -> the file system root
-//   "/..."   -> already native, used as it is
-//   "\\..."  -> a network share: no native path (the empty text)
-// Every backslash becomes '/'; nothing else is normalised. A component that
+// The folder of drive `letter` in the prefix: $WINEPREFIX/dosdevices/x:.
+QString DriveFolder(QChar letter);
+
+// Maps a Windows path text to a native path, as Windows resolves it:
+//   "X:\..." and "X:..."  -> DriveFolder(X) + "/..."
+//   "\..." "/..." "..."   -> on the current drive, C:, from its root
+//   "\\..." "//..."       -> a network share: no native path (the empty text)
+//   ""                   -> nothing (the empty text)
+// '/' separates as '\' does and becomes '/'. "." is dropped and ".." takes
+// back the name before it, never climbing above the drive's folder, so that
+// every path lies in a drive of the prefix. Doubled separators are left to
+// the file system; nothing else is normalised. A component that
 // does not exist with that spelling is looked up without regard to case in
 // its folder, as Windows finds names; a component that does not exist at all
 // keeps the program's spelling (so a file being created takes that name).

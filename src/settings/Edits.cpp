@@ -1,12 +1,23 @@
 #include "settings/Edits.h"
 
 #include "model/GeneralLoad.h"
+#include "platform/Cp1252.h"
+#include "settings/Commands.h"
+
+#include <algorithm>
 
 namespace brimo {
 
 namespace {
 
 QString quoted(const QString& text) { return QLatin1Char('"') + text + QLatin1Char('"'); }
+
+// A line break would end the key's line in Brimo.ini (and start another
+// key there) and break the Lisp line; no other control character has a
+// place in a setting either.
+bool holdsControl(const QString& text) {
+    return std::any_of(text.begin(), text.end(), [](QChar c) { return c.category() == QChar::Other_Control; });
+}
 
 // A quote in a text that goes between quotes in the Lisp file: the same test
 // as the general dialog's OK, on this one field.
@@ -19,6 +30,10 @@ bool unwritableQuote(const SettingKey& key, const QString& text) {
 } // namespace
 
 std::optional<QString> CheckedValue(const SettingKey& key, const QString& given, QString* error) {
+    if (holdsControl(given)) {
+        *error = QStringLiteral("%1: the value holds a line break or another control character").arg(key.key);
+        return std::nullopt;
+    }
     switch (key.kind) {
     case KeyKind::Flag:
         // Also as the dialog loads a stored state: 2 (grey) counts as ticked.
@@ -59,6 +74,11 @@ std::optional<Edit> ParseEdit(SettingSection section, const QString& assignment,
     }
     const std::optional<QString> value = CheckedValue(*key, assignment.mid(equals + 1), error);
     if (!value) return std::nullopt;
+    // Both files are Windows-1252: what it lacks goes in as '?', as the
+    // dialog's OK writes it; the user hears of it.
+    if (fromCp1252(toCp1252(*value)) != *value)
+        Complain(QStringLiteral("%1: characters that Windows-1252 lacks are written as ?, as the dialog writes them: %2")
+                     .arg(key->key, quoted(fromCp1252(toCp1252(*value)))));
     return Edit{key, *value};
 }
 

@@ -27,7 +27,9 @@ struct Edit {
 // double quote in a text that the Lisp file writes between quotes.
 std::optional<QString> CheckedValue(const SettingKey& key, const QString& given, QString* error);
 
-// "KEY=VALUE" of `section`, checked; nothing with `error` when refused.
+// "KEY=VALUE" of `section`, checked; nothing with `error` when refused (a
+// line break or another control character is). A value that Windows-1252
+// cannot hold whole is taken, and said on stderr.
 std::optional<Edit> ParseEdit(SettingSection section, const QString& assignment, QString* error);
 
 void ApplyEdits(GeneralControlState& state, const QList<Edit>& edits);

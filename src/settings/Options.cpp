@@ -14,7 +14,7 @@ const QStringList kCommands = {QStringLiteral("get"),     QStringLiteral("set"),
 
 // One prefix a line; blank lines and lines starting with '#' are skipped.
 bool readPrefixList(const QString& file, QStringList& prefixes, QString* error) {
-    const std::optional<QByteArray> bytes = ReadWholeFile(file, error);
+    const std::optional<QByteArray> bytes = ReadGivenFile(file, error);
     if (!bytes) {
         *error = QStringLiteral("--prefixes-from %1: cannot be read").arg(file);
         return false;

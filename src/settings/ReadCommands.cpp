@@ -33,6 +33,14 @@ QList<ShownValue> chosen(const QList<ShownValue>& all, const QStringList& keys) 
     return picked;
 }
 
+// A zorel.ini or Brimo.ini that is there but cannot be read fails the prefix:
+// its defaults would pass for the user's values.
+bool readable(const QString& prefix, const UserFiles& user) {
+    for (const QString& error : user.readError().split(QLatin1Char('\n'), Qt::SkipEmptyParts))
+        Complain(QStringLiteral("%1: %2").arg(prefix, error));
+    return user.readError().isEmpty();
+}
+
 QJsonObject jsonOf(const QString& prefix, const UserFiles& user, SettingSection section,
                    const QList<ShownValue>& values) {
     QJsonObject byKey;
@@ -62,6 +70,7 @@ RunResult RunGet(const Options& options) {
     QJsonArray json;
     const int failures = ForEachPrefix(options, [&](const QString& prefix) {
         const UserFiles user(options.user);
+        if (!readable(prefix, user)) return false;
         const QList<ShownValue> values = chosen(user.values(options.section), options.arguments);
         if (options.json) {
             json.append(jsonOf(prefix, user, options.section, values));
@@ -83,8 +92,9 @@ RunResult RunExport(const Options& options) {
         return {true};
     }
     ProfileDocument profile;
-    const int failures = ForEachPrefix(options, [&](const QString&) {
+    const int failures = ForEachPrefix(options, [&](const QString& prefix) {
         const UserFiles user(options.user);
+        if (!readable(prefix, user)) return false;
         for (SettingSection section : kBothSections) {
             QList<ProfileDocument::KeyValue> keys;
             for (const ShownValue& value : user.committedValues(section))

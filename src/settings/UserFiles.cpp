@@ -3,16 +3,24 @@
 #include "model/GeneralLoad.h"
 #include "model/SlopeOpening.h"
 #include "model/VariableCommit.h"
+#include "platform/Cp1252.h"
 #include "platform/ProfileFile.h"
+#include "platform/WindowsPaths.h"
+#include "settings/Commands.h"
+
+#include <algorithm>
 
 namespace brimo {
 
 UserFiles::UserFiles(const std::optional<QString>& user) {
-    LoadInstallInfo(info_);
+    QString zorelError, brimoError;
+    LoadInstallInfo(info_, &zorelError);
     if (user) info_.actuel = *user == QLatin1String("Default") ? QString() : *user;
     lock_.emplace(BrimoIniPath(info_));
-    ini_ = LoadProfile(BrimoIniPath(info_));
+    ini_ = LoadProfile(BrimoIniPath(info_), &brimoError);
     LoadGeneralVariables(info_, variables_);
+    for (const QString& error : {zorelError, brimoError})
+        if (!error.isEmpty()) readError_ += (readError_.isEmpty() ? QString() : QStringLiteral("\n")) + error;
 }
 
 QString UserFiles::storedText(SettingSection section, const QString& key) const {
@@ -41,10 +49,23 @@ QList<ShownValue> UserFiles::committedValues(SettingSection section) const {
 
 std::optional<QList<CommittedRow>> UserFiles::planCommit(CommitPlan& plan, SettingSection section,
                                                          const QList<Edit>& edits, QString* error) const {
+    if (!readError_.isEmpty()) {
+        *error = readError_;
+        return std::nullopt;
+    }
     if (section == SettingSection::Slope) {
         SlopeControlState state = SlopeOpeningState();
         ApplyEdits(state, edits);
         return PlanSlopeCommit(plan, info_, state);
+    }
+    // The dialog reads at most 254 characters of a stored text and its OK
+    // writes what it read: a longer text is cut unless a value is given.
+    for (const SettingKey& key : SettingKeys(section)) {
+        const qsizetype length = ini_.getString(toCp1252(SectionName(section)), toCp1252(key.key), 1 << 30).size();
+        if (length > 254 && std::none_of(edits.begin(), edits.end(), [&](const Edit& e) { return e.key == &key; }))
+            Complain(QStringLiteral("%1: %2: the stored text of %3 characters is cut to 254, as the dialog reads it")
+                         .arg(WinePrefix(), key.key)
+                         .arg(length));
     }
     GeneralEdit edit{variables_, LoadedControlState(variables_), {}};
     edit.edited = edit.loaded;

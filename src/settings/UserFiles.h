@@ -33,6 +33,11 @@ public:
     const InstallInfo& info() const { return info_; }
     const UserFolderLock& lock() const { return *lock_; }
 
+    // zorel.ini or Brimo.ini there but unreadable (a folder, no regular file,
+    // no right to read, too large), one line a file, naming it; empty when
+    // both were read or are missing. The prefix then fails.
+    const QString& readError() const { return readError_; }
+
     // Each key of the section with the text the dialog starts from: the
     // stored text, or the default (the form's design for the slope dialog).
     QList<ShownValue> values(SettingSection section) const;
@@ -48,14 +53,16 @@ public:
     // Adds to `plan` the dialog's OK after `edits`, from the controls as the
     // dialog opens (the general dialog with the stored values, the slope
     // dialog with its design), and gives its rows. Nothing, with `error`,
-    // when a stored text holds a double quote that the general dialog's OK
-    // would refuse.
+    // when a file could not be read or a stored text holds a double quote
+    // that the general dialog's OK would refuse. A stored text that the
+    // dialog reads cut is said on stderr.
     std::optional<QList<CommittedRow>> planCommit(CommitPlan& plan, SettingSection section, const QList<Edit>& edits,
                                                   QString* error) const;
 
 private:
     InstallInfo info_;
     std::optional<UserFolderLock> lock_;
+    QString readError_;
     ProfileDocument ini_;
     GeneralVariables variables_;
 };

@@ -46,7 +46,7 @@ SectionEdits editsOfCommandLine(const Options& options, QStringList& refusals) {
 }
 
 std::optional<QByteArray> readInput(const QString& file) {
-    if (file != QLatin1String("-")) return ReadWholeFile(file);
+    if (file != QLatin1String("-")) return ReadGivenFile(file);
     QFile in;
     if (!in.open(stdin, QIODevice::ReadOnly)) return std::nullopt;
     return in.readAll();

@@ -6,6 +6,8 @@
 #include <QString>
 #include <QStringList>
 
+#include <csignal>
+
 namespace {
 
 const char* const kUsage = R"(Usage: brimo-settings COMMAND [OPTION...] [ARGUMENT...]
@@ -53,7 +55,8 @@ Options take their value as "--opt value" or "--opt=value"; "--" ends them.
 Exit status:
   0  done, whether or not anything changed
   2  refused: a bad option, unknown key, value that is no number, value out
-     of its choices, or double quote in a text; nothing was written
+     of its choices, double quote or control character in a text; nothing
+     was written
   3  some prefix failed (reported); the other prefixes went on
 With --detailed-exitcodes (Puppet's convention):
   0  done, nothing changed (with --check: nothing would change)
@@ -70,6 +73,9 @@ See brimo-settings(1).
 int main(int argc, char** argv) {
     using namespace brimo;
     QCoreApplication application(argc, argv);
+    // A write past the file size limit then fails with EFBIG and is reported
+    // as any failed write, instead of killing the tool.
+    std::signal(SIGXFSZ, SIG_IGN);
     QStringList arguments;
     for (int i = 1; i < argc; ++i) arguments.append(QString::fromLocal8Bit(argv[i]));
 

@@ -12,12 +12,19 @@
 #include "support/Golden.h"
 #include "support/ScratchPrefix.h"
 
+#include <QAccessible>
+#include <QRadioButton>
+#include <QRegularExpression>
+#include <QTabWidget>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <functional>
 
 namespace brimo::test {
 namespace {
+
+using namespace Qt::StringLiterals;
 
 struct Form {
     const char* snapshot;
@@ -33,12 +40,58 @@ const Form kForms[] = {
     {"drawing.txt", [](FormServices& s) { return s.show(new CVarGlobale); }},
 };
 
+// French and German legends, whose line n reads "FRA n" and "DEU n".
+void writeLegends(const ScratchPrefix& prefix) {
+    prefix.writeZorelIni(QStringLiteral("C:\\Zorel"), QStringLiteral("C:\\Zorel\\Var"), QStringLiteral("jo"));
+    for (const char* language : {"FRA", "DEU"}) {
+        QByteArray legends;
+        for (int n = 1; n <= 174; ++n) legends += "0000 " + QByteArray(language) + ' ' + QByteArray::number(n) + "\r\n";
+        prefix.write(QStringLiteral("C:\\Zorel\\Lang\\ZorelMsg_%1.txt").arg(QLatin1String(language)), legends);
+    }
+}
+
+// What a screen reader hears of each control that takes the focus, and of
+// each tab, in alphabetical order (a row of tabs is heard by its tabs).
+QStringList spokenNames(QWidget* form) {
+    QStringList names;
+    for (QWidget* w : form->findChildren<QWidget*>()) {
+        if (w->focusPolicy() == Qt::NoFocus || w->focusProxy()) continue;
+        QAccessibleInterface* face = QAccessible::queryAccessibleInterface(w);
+        EXPECT_FALSE(face->text(QAccessible::Name).isEmpty()) << w->objectName().toStdString();
+        if (face->role() != QAccessible::PageTabList) names << face->text(QAccessible::Name);
+        for (int i = 0; i < face->childCount(); ++i)
+            if (face->child(i)->role() == QAccessible::PageTab) names << face->child(i)->text(QAccessible::Name);
+    }
+    names.sort();
+    return names;
+}
+
+// Every control says a name of its own, in the language of the legends; the
+// language switch of the general dialog renames all at once.
+TEST(FormSnapshot, EveryControlSaysANameOfItsOwnInTheLegendsLanguage) {
+    ScratchPrefix prefix;
+    writeLegends(prefix);
+    for (const Form& form : kForms) {
+        FormServices services;
+        services.load();
+        QWidget* window = form.make(services);
+        const QStringList french = spokenNames(window);
+        const auto twice = std::ranges::adjacent_find(french);
+        EXPECT_EQ(twice, french.end()) << form.snapshot << ": " << (twice == french.end() ? "" : twice->toStdString());
+        auto* german = window->findChild<QRadioButton*>(QStringLiteral("Option5(2)"));
+        if (!german) continue;
+        window->findChild<QTabWidget*>()->setCurrentIndex(4); // where the languages are
+        german->setChecked(true);
+        // The buttons below the tabs keep their captions of the load (legends 51 to 53).
+        QStringList renamed = french.join(u'|').replace(QRegularExpression(u"FRA (?!5[1-3]\\b)"_s), u"DEU "_s).split(u'|');
+        renamed.sort();
+        EXPECT_EQ(spokenNames(window), renamed);
+    }
+}
+
 TEST(FormSnapshot, EveryFormAsBuiltAndLoaded) {
     ScratchPrefix prefix;
-    prefix.writeZorelIni(QStringLiteral("C:\\Zorel"), QStringLiteral("C:\\Zorel\\Var"), QStringLiteral("jo"));
-    QByteArray legends;
-    for (int n = 1; n <= 174; ++n) legends += "0000 FRA " + QByteArray::number(n) + "\r\n";
-    prefix.write(QStringLiteral("C:\\Zorel\\Lang\\ZorelMsg_FRA.txt"), legends);
+    writeLegends(prefix);
     for (const Form& form : kForms) {
         FormServices services;
         services.load();

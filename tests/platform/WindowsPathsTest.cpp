@@ -11,14 +11,24 @@ using test::ScratchPrefix;
 TEST(WindowsPaths, TextMapping) {
     ScratchPrefix prefix;
     const QString p = prefix.root();
+    const QString c = p + "/dosdevices/c:";
     const std::pair<const char*, QString> cases[] = {
-        {"C:\\windows\\zorel.ini", p + "/dosdevices/c:/windows/zorel.ini"},
+        {"C:\\windows\\zorel.ini", c + "/windows/zorel.ini"},
         {"d:\\X\\\\y", p + "/dosdevices/d:/X//y"},
-        {"\\Lang\\ZorelMsg_FRA.txt", "/Lang/ZorelMsg_FRA.txt"},
-        {"/opt/brimo/file", "/opt/brimo/file"},
-        {"rel\\file", "rel/file"},
+        {"D:rel", p + "/dosdevices/d:/rel"},
+        {"\\Lang\\ZorelMsg_FRA.txt", c + "/Lang/ZorelMsg_FRA.txt"},
+        {"/opt/brimo/file", c + "/opt/brimo/file"},
+        {"rel\\file", c + "/rel/file"},
         {"\\\\Brimo.ini", ""},
         {"\\\\server\\share\\x", ""},
+        {"//server/share", ""},
+        {"", ""},
+        {"C:\\Zorel\\..\\..\\..\\..\\tmp\\x", c + "/tmp/x"},
+        {"C:\\Zorel\\Var\\..\\..\\..\\tmp\\x\\Brimo.ini", c + "/tmp/x/Brimo.ini"},
+        {"..\\..\\tmp/./x\\", c + "/tmp/x/"},
+        {"C:\\a\\b\\\\..\\c", c + "/a/c"},
+        {"C:..", c + "/"},
+        {"\xc3\xa9:\\x", c + "/\xc3\xa9:/x"},
     };
     for (const auto& [text, native] : cases) EXPECT_EQ(MapWindowsPathText(QString::fromUtf8(text)), native) << text;
     EXPECT_EQ(GetWindowsFolder(), QStringLiteral("C:\\windows"));

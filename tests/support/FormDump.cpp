@@ -3,6 +3,7 @@
 #include "forms/RowTabControl.h"
 
 #include <QAbstractButton>
+#include <QAccessible>
 #include <QCheckBox>
 #include <QGroupBox>
 #include <QLabel>
@@ -34,6 +35,8 @@ static QString stateOf(QWidget* w) {
         if (field->alignment() & Qt::AlignHCenter) state << "centred";
         if (field->cursorPosition()) state << QStringLiteral("cursor=%1").arg(field->cursorPosition());
     }
+    if (w->focusPolicy() != Qt::NoFocus)
+        state << QStringLiteral("name=\"%1\"").arg(QAccessible::queryAccessibleInterface(w)->text(QAccessible::Name));
     if (auto* tabs = qobject_cast<QTabWidget*>(w)) state << tabsOf(tabs);
     if (auto* tabs = qobject_cast<RowTabControl*>(w)) state << tabsOf(tabs);
     return state.join(QLatin1Char(' '));

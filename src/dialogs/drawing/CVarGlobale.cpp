@@ -4,6 +4,7 @@
 #include "dialogs/drawing/FrameBox.h"
 #include "dialogs/drawing/SSTabControl.h"
 #include "dialogs/drawing/WrappingCheckBox.h"
+#include "forms/AccessibleNames.h"
 #include "forms/DesignFont.h"
 #include "forms/WindowServices.h"
 
@@ -13,6 +14,7 @@
 #include <QPushButton>
 
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 // The pictures live in a static library: their registration must be pulled in.
@@ -34,6 +36,12 @@ QPushButton* plainButton(QPushButton* button) {
     button->setAutoDefault(false);
     return button;
 }
+
+// A point symbol button says the symbol it chooses, as its picture shows it.
+constexpr std::pair<const char*, const char*> kSymbolNames[] = {
+    {"Command3(0)", "Symbole plus"},   {"Command3(1)", "Symbole croix"},       {"Command3(2)", "Symbole cercle"},
+    {"Command3(3)", "Symbole cercle et plus"}, {"Command3(4)", "Symbole carré plein"},
+};
 
 QWidget* makeControl(const DrawingControl& control, QWidget* parent) {
     const QString text = QString::fromUtf8(control.text);
@@ -98,6 +106,8 @@ CVarGlobale::CVarGlobale() {
         if (control.tabIndex != kNoTabStop) tabStops.emplace_back(control.tabIndex, widget);
     }
     chainTabOrder(std::move(tabStops))->setFocus();
+    for (const auto& [button, symbol] : kSymbolNames)
+        SetSpokenCaption(containers.value(QLatin1String(button)), QString::fromUtf8(symbol));
 
     findChild<SSTabControl*>(QStringLiteral("SSTab1"))->setCurrentIndex(2);
 }

@@ -3,6 +3,7 @@
 #include "dialogs/general/GeneralIcon.h"
 #include "model/GeneralLoad.h"
 #include "dialogs/general/ProgramLocations.h"
+#include "forms/AccessibleNames.h"
 #include "forms/CommitFailureReport.h"
 #include "forms/DesignFont.h"
 #include "forms/WindowServices.h"
@@ -51,7 +52,7 @@ CGeneralForm::CGeneralForm(Navigator& navigator, const InstallInfo& info, Genera
     setFixedSize(TwipsSize(7470, 4455));
     // The classic dialog font, so that six tabs fit in one row.
     setFont(DesignFont());
-    controls_ = BuildGeneralControls(this, legends_);
+    controls_ = BuildGeneralControls(this, legends_, refusalGuard_);
     cmdOK_ = controls_.require<QPushButton>(u"cmdOK");
     CmdCancel_ = controls_.require<QPushButton>(u"CmdCancel");
     Command7_ = controls_.require<QPushButton>(u"Command7");
@@ -145,7 +146,7 @@ void CGeneralForm::cmdOK_Click() {
         return;
     }
     if (!outcome.ok) {
-        ReportCommitFailure(navigator_, outcome);
+        ReportCommitFailure(*this, navigator_, outcome);
         return;
     }
     navigator_.End(0);
@@ -179,6 +180,7 @@ void CGeneralForm::ProgramLocation_Click(const ProgramLocation& location) {
 void CGeneralForm::setCaptions(std::span<const CaptionRow> rows) {
     for (const CaptionRow& row : rows)
         SetCaption(controls_.byName.value(QLatin1String(row.control)), legends_.GetLegends(row.legend));
+    NameControls(this);
 }
 
 void CGeneralForm::sweepTabs(std::span<const SweepStep> steps) {
@@ -207,7 +209,7 @@ GeneralControlState CGeneralForm::controlState() const {
 
 // Nothing is written: the field is shown with its edits, ready to be put right.
 void CGeneralForm::refuseUnwritableQuote(const UnwritableField& field) {
-    ShowInformationBox(UnwritableQuoteMessage(field), QStringLiteral("Brimo"));
+    messageBoxes().ShowInformationBox(UnwritableQuoteMessage(field), QStringLiteral("Brimo"));
     QLineEdit* text = fields_.value(field.control);
     showTabOf(text);
     text->setFocus(Qt::OtherFocusReason);

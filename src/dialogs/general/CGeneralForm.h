@@ -10,6 +10,7 @@
 #include "dialogs/general/GeneralLayout.h"
 #include "forms/BrimoForm.h"
 #include "forms/Navigator.h"
+#include "forms/RuleField.h"
 #include "model/GeneralCommit.h"
 #include "model/GeneralVariables.h"
 #include "model/InstallInfo.h"
@@ -54,6 +55,7 @@ private:
     GeneralVariables& variables_;
     LegendTable& legends_;
     LegendFailureQuestion& legendQuestion_;
+    RefusalGuard refusalGuard_;
     GeneralControls controls_;
     // The controls that the form reads and writes, resolved while it is built.
     QPushButton *cmdOK_, *CmdCancel_, *Command7_, *cmdAbout_;

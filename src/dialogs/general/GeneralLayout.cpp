@@ -1,5 +1,6 @@
 #include "dialogs/general/GeneralLayout.h"
 
+#include "forms/AccessibleNames.h"
 #include "forms/RuleField.h"
 #include "forms/WindowServices.h"
 #include "model/FieldRules.h"
@@ -15,6 +16,7 @@
 
 #include <array>
 #include <span>
+#include <utility>
 
 namespace brimo {
 
@@ -243,6 +245,10 @@ constexpr auto kTabOrder = std::to_array<const char*>({
 });
 static_assert(kTabOrder.size() == 73);
 
+// The two dimensions of the frame share their label: the sketch tells them
+// apart, Val1 standing above it and Val0 beside it.
+constexpr std::pair<const char*, const char*> kNameQualifiers[] = {{"Val1", "x"}, {"Val0", "y"}};
+
 // A click moves between empty and ticked; the grey state comes from a stored
 // value alone.
 class FlagCheckBox : public QCheckBox {
@@ -253,7 +259,7 @@ protected:
     void nextCheckState() override { setCheckState(checkState() == Qt::Checked ? Qt::Unchecked : Qt::Checked); }
 };
 
-QWidget* createControl(const ControlRow& row, QWidget* parent, const LegendTable& legends) {
+QWidget* createControl(const ControlRow& row, QWidget* parent, const LegendTable& legends, RefusalGuard& guard) {
     const QString caption = QString::fromUtf8(row.caption);
     switch (row.kind) {
     case K::Frame: return new QGroupBox(caption, parent);
@@ -265,7 +271,7 @@ QWidget* createControl(const ControlRow& row, QWidget* parent, const LegendTable
     case K::RuleText: {
         const FieldRule* rule = FindFieldRule(GeneralFieldRules(), QString::fromLatin1(row.name));
         Q_ASSERT(rule);
-        auto* text = new RuleField(*rule, legends, parent);
+        auto* text = new RuleField(*rule, legends, guard, parent);
         text->setText(caption);
         if (rule->kind != RuleKind::TextRule) text->setAlignment(Qt::AlignCenter);
         return text;
@@ -287,10 +293,11 @@ QWidget* createControl(const ControlRow& row, QWidget* parent, const LegendTable
     return nullptr;
 }
 
-void buildTable(std::span<const ControlRow> table, QWidget* base, GeneralControls& controls, const LegendTable& legends) {
+void buildTable(std::span<const ControlRow> table, QWidget* base, GeneralControls& controls, const LegendTable& legends,
+                RefusalGuard& guard) {
     for (const ControlRow& row : table) {
         QWidget* parent = *row.parent ? controls.byName.value(QLatin1String(row.parent)) : base;
-        QWidget* control = createControl(row, parent, legends);
+        QWidget* control = createControl(row, parent, legends, guard);
         control->setObjectName(QLatin1String(row.name));
         PlaceInTwips(control, row.left, row.top, row.width, row.height);
         if (row.state == DesignState::Selected) static_cast<QRadioButton*>(control)->setChecked(true);
@@ -310,7 +317,7 @@ const ControlRow* FindGeneralControl(QAnyStringView name) {
     return nullptr;
 }
 
-GeneralControls BuildGeneralControls(QWidget* form, const LegendTable& legends) {
+GeneralControls BuildGeneralControls(QWidget* form, const LegendTable& legends, RefusalGuard& guard) {
     GeneralControls controls;
     controls.tabs = new QTabWidget(form);
     controls.tabs->setObjectName(QStringLiteral("SSTab1"));
@@ -321,11 +328,13 @@ GeneralControls BuildGeneralControls(QWidget* form, const LegendTable& legends) 
     for (const TabTable& tab : kTabs) {
         auto* page = new QWidget;
         controls.tabs->addTab(page, QString::fromUtf8(tab.caption));
-        buildTable(tab.controls, page, controls, legends);
+        buildTable(tab.controls, page, controls, legends, guard);
     }
-    buildTable(kButtons, form, controls, legends);
+    buildTable(kButtons, form, controls, legends, guard);
 
     controls.require<QPushButton>(u"cmdOK")->setDefault(true);
+    for (const auto& [name, qualifier] : kNameQualifiers)
+        SetNameQualifier(controls.require<QWidget>(QLatin1String(name)), QLatin1String(qualifier));
 
     for (std::size_t i = 1; i < kTabOrder.size(); ++i)
         QWidget::setTabOrder(controls.byName.value(QLatin1String(kTabOrder[i - 1])),

@@ -14,6 +14,7 @@ class QWidget;
 namespace brimo {
 
 class LegendTable;
+struct RefusalGuard;
 
 enum class ControlKind {
     Frame,    // a group box
@@ -57,8 +58,9 @@ struct GeneralControls {
 };
 
 // Builds SSTab1 and every control on `form`, at their design state, and sets
-// the tab order. The fields with a rule refuse their texts in `legends`.
-GeneralControls BuildGeneralControls(QWidget* form, const LegendTable& legends);
+// the tab order. The fields with a rule refuse their texts in `legends`,
+// one at a time under `guard`.
+GeneralControls BuildGeneralControls(QWidget* form, const LegendTable& legends, RefusalGuard& guard);
 
 // Sets a control's caption: a frame's title, a label's or a button's text.
 void SetCaption(QWidget* control, const QString& caption);

@@ -2,6 +2,7 @@
 
 #include "dialogs/slope/SketchLayer.h"
 #include "dialogs/slope/SlopeControls.h"
+#include "forms/AccessibleNames.h"
 #include "forms/CommitFailureReport.h"
 #include "forms/DesignFont.h"
 #include "forms/RuleField.h"
@@ -17,6 +18,7 @@
 #include <QStyleFactory>
 
 #include <algorithm>
+#include <utility>
 
 namespace brimo {
 
@@ -34,6 +36,11 @@ constexpr EventBinding kEvents[] = {
     {"CmdCancel", &CParamRechTalus::CmdCancel_Click},
     {"cmdAbout", &CParamRechTalus::cmdAbout_Click},
 };
+
+// The two check boxes show no caption: the line and the crosses beside them
+// say what they choose. The two legs of the slope share their frame's title.
+constexpr std::pair<const char*, const char*> kSpokenCaptions[] = {{"Check1", "Polyligne"}, {"Check2", "Points"}};
+constexpr std::pair<const char*, const char*> kNameQualifiers[] = {{"Text1", "horizontale"}, {"Text2", "verticale"}};
 
 constexpr const char* kTextFields[] = {"Text1", "Text2", "Text3", "Text4", "Text5", "Text6"};
 
@@ -65,6 +72,8 @@ CParamRechTalus::CParamRechTalus(Navigator& navigator, const InstallInfo& info, 
         widget->setObjectName(QString::fromLatin1(entry.name));
         PlaceInTwips(widget, entry.left, entry.top, entry.width, entry.height);
     }
+    for (const auto& [name, caption] : kSpokenCaptions) SetSpokenCaption(control<QWidget>(name), QString::fromUtf8(caption));
+    for (const auto& [name, qualifier] : kNameQualifiers) SetNameQualifier(control<QWidget>(name), QString::fromUtf8(qualifier));
     drawSketches();
     bindEvents();
     chainTabStops();
@@ -96,7 +105,7 @@ QWidget* CParamRechTalus::createControl(const SlopeControl& entry, QWidget* pare
         return option;
     }
     case SlopeControlKind::TextField: {
-        auto* field = new RuleField(*FindFieldRule(SlopeFieldRules(), QString::fromLatin1(entry.name)), legends_, parent);
+        auto* field = new RuleField(*FindFieldRule(SlopeFieldRules(), QString::fromLatin1(entry.name)), legends_, refusalGuard_, parent);
         field->setText(caption);
         field->setAlignment(Qt::AlignCenter);
         return field;
@@ -155,7 +164,7 @@ SlopeControlState CParamRechTalus::ControlState() const {
 void CParamRechTalus::Command1_Click() {
     const CommitOutcome outcome = CommitSlopeVariables(info_, ControlState());
     if (!outcome.ok) {
-        ReportCommitFailure(navigator_, outcome);
+        ReportCommitFailure(*this, navigator_, outcome);
         return;
     }
     navigator_.End(0);

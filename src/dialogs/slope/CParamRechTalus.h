@@ -6,6 +6,7 @@
 // of its refusal message, and the navigator for the about window and the end.
 
 #include "forms/BrimoForm.h"
+#include "forms/RuleField.h"
 #include "forms/Navigator.h"
 #include "model/InstallInfo.h"
 #include "model/LegendTable.h"
@@ -44,6 +45,7 @@ private:
     Navigator& navigator_;
     const InstallInfo& info_;
     const LegendTable& legends_;
+    RefusalGuard refusalGuard_;
     QStyle* frameStyle_ = nullptr;
 };
 

@@ -2,6 +2,7 @@
 
 #include "forms/WindowServices.h"
 
+#include <QAccessibleWidget>
 #include <QPainter>
 
 #include <algorithm>
@@ -74,6 +75,15 @@ SketchLayer::SketchLayer(const FrameSketch& sketch, QWidget* frame)
     setFocusPolicy(Qt::NoFocus);
     setGeometry(frame->rect());
     lower();
+    // Screen readers find the sketch as a picture and read what it shows.
+    static const bool asPicture = (QAccessible::installFactory([](const QString& key, QObject* object) {
+        return key == QLatin1String("brimo::SketchLayer")
+                   ? static_cast<QAccessibleInterface*>(new QAccessibleWidget(static_cast<QWidget*>(object), QAccessible::Graphic))
+                   : nullptr;
+    }), true);
+    Q_UNUSED(asPicture);
+    setAccessibleName(QStringLiteral("Schéma"));
+    setAccessibleDescription(QString::fromUtf8(sketch.description));
 }
 
 void SketchLayer::paintEvent(QPaintEvent*) {

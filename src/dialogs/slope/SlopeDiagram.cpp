@@ -89,11 +89,20 @@ constexpr SketchShape kFrame5Shapes[] = {
 };
 
 constexpr FrameSketch kSlopeDiagram[] = {
-    {"Frame1", {}, kFrame1Lines, {}},
-    {"Frame2", {}, kFrame2Lines, {}},
-    {"Frame3", kFrame3Mesh, kFrame3Lines, kFrame3Shapes},
-    {"Frame4", {}, kFrame4Lines, kFrame4Shapes},
-    {"Frame5", kFrame5Mesh, kFrame5Lines, kFrame5Shapes},
+    {"Frame1", {}, kFrame1Lines, {},
+     "Une ligne continue à côté de la première case et une rangée de croix à côté de la seconde : "
+     "le dessin final en polyligne ou en points."},
+    {"Frame2", {}, kFrame2Lines, {},
+     "Les deux côtés de la pente : la distance horizontale sous le premier champ, "
+     "la distance verticale à côté du second."},
+    {"Frame3", kFrame3Mesh, kFrame3Lines, kFrame3Shapes,
+     "Un rectangle au centre d'un terrain maillé de triangles, entouré du haut du talus ; "
+     "sous le champ, une cote du bord du rectangle au haut du talus : la longueur initiale de recherche."},
+    {"Frame4", {}, kFrame4Lines, kFrame4Shapes,
+     "Le cercle de la recherche autour d'un point, et trois directions de recherche numérotées 1, 2 et 3."},
+    {"Frame5", kFrame5Mesh, kFrame5Lines, kFrame5Shapes,
+     "Un rectangle sur un terrain maillé ; d'un bord épais partent cinq lignes de recherche, "
+     "traversées par une ligne avec le champ à sa gauche : l'espacement des recherches."},
 };
 
 } // namespace

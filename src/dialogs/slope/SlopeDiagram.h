@@ -35,6 +35,7 @@ struct FrameSketch {
     std::span<const MeshRow> meshRows; // top to bottom
     std::span<const SketchLine> lines;
     std::span<const SketchShape> shapes;
+    const char* description; // what the sketch shows, for screen readers, UTF-8
 };
 
 std::span<const FrameSketch> SlopeDiagram();

@@ -17,16 +17,11 @@ void GeneralFormTest::SetUp() {
     prefix.makeFolder(QStringLiteral("C:\\Zorel\\Var\\jo"));
     writeLegends(QStringLiteral("FRA"));
     writeLegends(QStringLiteral("DEU"));
-    SetMessageBoxAnswerer([this](const MessageBoxCall& call) {
-        messages.append(call);
-        return false;
-    });
     services = std::make_unique<FormServices>();
 }
 
 void GeneralFormTest::TearDown() {
     services.reset();
-    SetMessageBoxAnswerer(nullptr);
 }
 
 void GeneralFormTest::writeLegends(const QString& code, const QMap<int, QString>& texts) {
@@ -45,8 +40,12 @@ CGeneralForm* GeneralFormTest::open() {
 }
 
 CGeneralForm* GeneralFormTest::reopen() {
-    form = services->show(
-        new CGeneralForm(*services, services->info, services->variables, services->legends, *services));
+    auto* general = new CGeneralForm(*services, services->info, services->variables, services->legends, *services);
+    general->messageBoxes().setAnswerer([this](const MessageBoxCall& call) {
+        messages.append(call);
+        return false;
+    });
+    form = services->show(general);
     form->activateWindow();
     EXPECT_TRUE(QTest::qWaitForWindowActive(form));
     return form;

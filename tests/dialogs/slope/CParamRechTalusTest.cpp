@@ -59,16 +59,16 @@ struct SlopeSession {
         prefix.writeZorelIni(QStringLiteral("C:\\Zorel"), QStringLiteral("C:\\Zorel\\Var"), actuel);
         prefix.write(QStringLiteral("C:\\Zorel\\Lang\\ZorelMsg_FRA.txt"), legendFile());
         prefix.makeFolder(QStringLiteral("C:\\Zorel\\Var\\Jean"));
-        SetMessageBoxAnswerer([this](const MessageBoxCall& call) {
-            messages.append(call);
-            return false;
-        });
     }
-    ~SlopeSession() { SetMessageBoxAnswerer({}); }
 
     void open() {
         services.load();
-        form = services.show(new CParamRechTalus(services, services.info, services.legends));
+        auto* slope = new CParamRechTalus(services, services.info, services.legends);
+        slope->messageBoxes().setAnswerer([this](const MessageBoxCall& call) {
+            messages.append(call);
+            return false;
+        });
+        form = services.show(slope);
         form->activateWindow();
         QVERIFY(QTest::qWaitForWindowActive(form));
     }

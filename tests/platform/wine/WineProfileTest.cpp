@@ -24,6 +24,7 @@
 
 #include "platform/Cp1252.h"
 #include "platform/ProfileFile.h"
+#include "platform/WindowsPaths.h"
 
 #include <QDir>
 #include <QFile>
@@ -190,7 +191,13 @@ protected:
         ASSERT_TRUE(scratch.isValid());
         QDir().mkpath(wineDir());
         QDir().mkpath(ourDir());
+        // Our side reaches its files through drive Z:, as Wine does: a link to "/".
+        QDir().mkpath(scratch.path() + "/prefix/dosdevices");
+        QFile::link("/", scratch.path() + "/prefix/dosdevices/z:");
+        SetWinePrefix(scratch.path() + "/prefix");
     }
+    void TearDown() override { SetWinePrefix({}); }
+    static QString onZ(const QString& path) { return QString::fromLocal8Bit(WineSession::windowsPath(path)); }
 
     static void put(const QString& path, const QByteArray& bytes) {
         QFile f(path);
@@ -214,7 +221,7 @@ protected:
     }
     static QByteArray ourRead(const QString& path, const Read& r) {
         QString buffer;
-        const int n = GetPrivateProfileString(fromCp1252(r.section), fromCp1252(r.key), buffer, 255, path);
+        const int n = GetPrivateProfileString(fromCp1252(r.section), fromCp1252(r.key), buffer, 255, onZ(path));
         return QByteArray::number(n) + ' ' + encodeField(toCp1252(buffer));
     }
 
@@ -299,7 +306,7 @@ TEST_F(WineProfile, WritesLeaveTheSameContent) {
     for (const WriteCase& c : cases) {
         for (const Put& p : c.puts) {
             const bool ours = WritePrivateProfileString(fromCp1252(p.section), fromCp1252(p.key), fromCp1252(p.value),
-                                                        ourFiles[c.file]);
+                                                        onZ(ourFiles[c.file]));
             const QByteArray theirs = answer < wine.size() ? wine[answer] : "none";
             ++answer;
             if (theirs != (ours ? "1" : "0"))
