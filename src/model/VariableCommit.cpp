@@ -23,8 +23,8 @@ QString lockBeside(const QString& nativeIni) {
 
 } // namespace
 
-UserFolderLock::UserFolderLock(const QString& iniPath)
-    : iniPath_(iniPath), nativeIni_(ToNativePath(iniPath)), lock_(lockBeside(nativeIni_), kUserFolderLockWait) {
+UserFolderLock::UserFolderLock(const WinePrefix& prefix, const QString& iniPath)
+    : prefix_(prefix), iniPath_(iniPath), nativeIni_(ToNativePath(prefix, iniPath)), lock_(lockBeside(nativeIni_), kUserFolderLockWait) {
     if (nativeIni_.isEmpty()) return; // a path that names no folder here
     if (busy()) {
         std::fprintf(stderr, "Brimo: %s: %s\n", QFile::encodeName(nativeIni_).constData(),
@@ -35,7 +35,7 @@ UserFolderLock::UserFolderLock(const QString& iniPath)
 }
 
 CommitPlan::CommitPlan(const UserFolderLock& lock)
-    : iniPath_(lock.iniPath()), nativeIni_(ToNativePath(lock.iniPath())) {
+    : prefix_(lock.prefix()), iniPath_(lock.iniPath()), nativeIni_(ToNativePath(prefix_, lock.iniPath())) {
     if (lock.busy()) {
         readFailure_ = lock.busyOutcome();
         return;
@@ -54,7 +54,7 @@ void CommitPlan::add(const QString& lispPath, const QString& section, const QLis
         lines.append(row.line);
         keys.append({toCp1252(row.key), toCp1252(row.value)});
     }
-    lispFiles_.append({lispPath, {ToNativePath(lispPath), ComposeLispFile(lines)}});
+    lispFiles_.append({lispPath, {ToNativePath(prefix_, lispPath), ComposeLispFile(lines)}});
     ini_.setStrings(toCp1252(section), keys);
 }
 
@@ -87,14 +87,14 @@ CommitOutcome CommitPlan::write() const {
     return {};
 }
 
-CommitOutcome CommitVariables(const QString& lispPath, const QString& iniPath, const QString& section,
+CommitOutcome CommitVariables(const WinePrefix& prefix, const QString& lispPath, const QString& iniPath, const QString& section,
                               const QList<CommittedRow>& rows) {
-    const UserFolderLock lock(iniPath);
+    const UserFolderLock lock(prefix, iniPath);
     CommitPlan plan(lock);
     plan.add(lispPath, section, rows);
     return plan.write();
 }
 
-Recovery RecoverInterruptedCommit(const InstallInfo& info) { return UserFolderLock(BrimoIniPath(info)).recovery(); }
+Recovery RecoverInterruptedCommit(const InstallInfo& info) { return UserFolderLock(info.prefix, BrimoIniPath(info)).recovery(); }
 
 } // namespace brimo

@@ -43,8 +43,9 @@ inline constexpr std::chrono::seconds kUserFolderLockWait{5};
 // finished or undone, so that what is read next is a whole pair.
 class UserFolderLock {
 public:
-    explicit UserFolderLock(const QString& iniPath);
+    UserFolderLock(const WinePrefix& prefix, const QString& iniPath);
 
+    const WinePrefix& prefix() const { return prefix_; }
     const QString& iniPath() const { return iniPath_; }
     // Another program kept the lock through the whole wait: nothing may be
     // written, and the outcome says who holds it.
@@ -53,6 +54,7 @@ public:
     Recovery recovery() const { return recovery_; }
 
 private:
+    WinePrefix prefix_;
     QString iniPath_, nativeIni_;
     FolderLock lock_;
     Recovery recovery_ = Recovery::Nothing;
@@ -82,6 +84,7 @@ private:
     };
     QList<File> files() const;
 
+    WinePrefix prefix_;
     QString iniPath_, nativeIni_;
     CommitOutcome readFailure_;
     ProfileDocument ini_;
@@ -89,7 +92,7 @@ private:
 };
 
 // One section's rows, written under the lock of the folder.
-CommitOutcome CommitVariables(const QString& lispPath, const QString& iniPath, const QString& section,
+CommitOutcome CommitVariables(const WinePrefix& prefix, const QString& lispPath, const QString& iniPath, const QString& section,
                               const QList<CommittedRow>& rows);
 
 // Finishes or undoes a commit that a kill or a power loss cut off in the

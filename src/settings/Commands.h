@@ -4,6 +4,7 @@
 //
 // The four commands. Each returns the exit status of the tool.
 
+#include "platform/WindowsPaths.h"
 #include "settings/Options.h"
 
 #include <functional>
@@ -27,7 +28,7 @@ int RunApply(const Options& options);
 // Runs `each` with every prefix of the options in force in turn (or once, on
 // the environment's), after testing that the prefix is a folder; `each` gets
 // the prefix and says whether it succeeded. Returns the number of failures.
-int ForEachPrefix(const Options& options, const std::function<bool(const QString& prefix)>& each);
+int ForEachPrefix(const Options& options, const std::function<bool(const WinePrefix& prefix)>& each);
 
 // Text on the standard output and the standard error, in UTF-8.
 void Print(const QString& text);

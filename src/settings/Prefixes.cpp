@@ -67,13 +67,14 @@ private:
 
 } // namespace
 
-int ForEachPrefix(const Options& options, const std::function<bool(const QString& prefix)>& each) {
+int ForEachPrefix(const Options& options, const std::function<bool(const WinePrefix& prefix)>& each) {
     // No --prefix: the one of the environment, as the program finds it.
-    const QStringList prefixes = options.prefixes.isEmpty() ? QStringList{QString()} : options.prefixes;
+    QList<WinePrefix> prefixes;
+    for (const QString& folder : options.prefixes) prefixes.append({folder});
+    if (prefixes.isEmpty()) prefixes.append(WinePrefix::FromEnvironment());
     int failures = 0;
-    for (const QString& prefix : prefixes) {
-        SetWinePrefix(prefix);
-        const QString inForce = WinePrefix();
+    for (const WinePrefix& prefix : prefixes) {
+        const QString& inForce = prefix.folder;
         if (!QFileInfo(inForce).isDir()) {
             Complain(QStringLiteral("%1: no such folder").arg(inForce));
             ++failures;
@@ -81,9 +82,8 @@ int ForEachPrefix(const Options& options, const std::function<bool(const QString
         }
         const AsPrefixOwner owner(inForce);
         if (!owner.error().isEmpty()) Complain(QStringLiteral("%1: %2").arg(inForce, owner.error()));
-        if (!owner.error().isEmpty() || !each(inForce)) ++failures;
+        if (!owner.error().isEmpty() || !each(prefix)) ++failures;
     }
-    SetWinePrefix(QString());
     return failures;
 }
 

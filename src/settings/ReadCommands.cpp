@@ -61,8 +61,9 @@ int RunGet(const Options& options) {
             return kRefused;
         }
     QJsonArray json;
-    const int failures = ForEachPrefix(options, [&](const QString& prefix) {
-        const UserFiles user(options.user);
+    const int failures = ForEachPrefix(options, [&](const WinePrefix& wine) {
+        const QString& prefix = wine.folder;
+        const UserFiles user(wine, options.user);
         if (!readable(prefix, user)) return false;
         const QList<ShownValue> values = chosen(user.values(options.section), options.arguments);
         if (options.json) {
@@ -85,8 +86,9 @@ int RunExport(const Options& options) {
         return kRefused;
     }
     ProfileDocument profile;
-    const int failures = ForEachPrefix(options, [&](const QString& prefix) {
-        const UserFiles user(options.user);
+    const int failures = ForEachPrefix(options, [&](const WinePrefix& wine) {
+        const QString& prefix = wine.folder;
+        const UserFiles user(wine, options.user);
         if (!readable(prefix, user)) return false;
         for (SettingSection section : kBothSections) {
             QList<ProfileDocument::KeyValue> keys;

@@ -74,8 +74,9 @@ struct Tally {
 
 // One prefix: compose every commit, compare with the files, write when they
 // differ (unless only checking). False when the prefix failed.
-bool commitOnPrefix(const Options& options, const SectionEdits& edits, const QString& prefix, Tally& tally) {
-    const UserFiles user(options.user);
+bool commitOnPrefix(const Options& options, const SectionEdits& edits, const WinePrefix& wine, Tally& tally) {
+    const QString& prefix = wine.folder;
+    const UserFiles user(wine, options.user);
     if (user.lock().busy()) {
         Complain(QStringLiteral("%1: %2: %3").arg(prefix, user.lock().iniPath(), user.lock().busyOutcome().reason));
         return false;
@@ -115,7 +116,7 @@ bool commitOnPrefix(const Options& options, const SectionEdits& edits, const QSt
 int commitEverywhere(const Options& options, const std::optional<SectionEdits>& edits) {
     if (!edits) return kRefused;
     Tally tally;
-    const int failed = ForEachPrefix(options, [&](const QString& prefix) {
+    const int failed = ForEachPrefix(options, [&](const WinePrefix& prefix) {
         return commitOnPrefix(options, *edits, prefix, tally);
     });
     Print(QStringLiteral("%1 %2, already so %3, failed %4\n")
