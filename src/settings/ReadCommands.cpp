@@ -34,9 +34,9 @@ QList<ShownValue> chosen(const QList<ShownValue>& all, const QStringList& keys) 
 
 // A zorel.ini or Brimo.ini that is there but cannot be read fails the prefix:
 // its defaults would pass for the user's values.
-bool readable(const QString& prefix, const UserFiles& user) {
+bool readable(const UserFiles& user) {
     for (const QString& error : user.readError().split(QLatin1Char('\n'), Qt::SkipEmptyParts))
-        Complain(QStringLiteral("%1: %2").arg(prefix, error));
+        Complain(QStringLiteral("%1: %2").arg(user.info().prefix.folder, error));
     return user.readError().isEmpty();
 }
 
@@ -62,9 +62,9 @@ int RunGet(const Options& options) {
         }
     QJsonArray json;
     const int failures = ForEachPrefix(options, [&](const WinePrefix& wine) {
-        const QString& prefix = wine.folder;
         const UserFiles user(wine, options.user);
-        if (!readable(prefix, user)) return false;
+        if (!readable(user)) return false;
+        const QString& prefix = wine.folder;
         const QList<ShownValue> values = chosen(user.values(options.section), options.arguments);
         if (options.json) {
             json.append(jsonOf(prefix, user, options.section, values));
@@ -87,9 +87,8 @@ int RunExport(const Options& options) {
     }
     ProfileDocument profile;
     const int failures = ForEachPrefix(options, [&](const WinePrefix& wine) {
-        const QString& prefix = wine.folder;
         const UserFiles user(wine, options.user);
-        if (!readable(prefix, user)) return false;
+        if (!readable(user)) return false;
         for (SettingSection section : kBothSections) {
             QList<ProfileDocument::KeyValue> keys;
             for (const ShownValue& value : user.values(section)) keys.append({toCp1252(value.key), toCp1252(value.value)});
