@@ -37,6 +37,7 @@ Prefix& prefix() {
 
 InstallInfo info() {
     InstallInfo i;
+    i.prefix = WinePrefix::FromEnvironment();
     i.Variables = QStringLiteral("C:\\Var");
     i.actuel = QStringLiteral("U");
     return i;
@@ -100,7 +101,7 @@ void BM_WriteOneKey(benchmark::State& state) {
     putIni(state.range(0));
     int n = 0;
     for (auto _ : state)
-        WritePrivateProfileString(QStringLiteral("Brimo_Gene"), QStringLiteral("x_ht_gc1"), QString::number(++n),
+        WritePrivateProfileString(info().prefix, QStringLiteral("Brimo_Gene"), QStringLiteral("x_ht_gc1"), QString::number(++n),
                                   BrimoIniPath(info()));
     setBytes(state);
 }
@@ -116,7 +117,7 @@ void BM_CommitGeneral(benchmark::State& state) {
     int n = 0;
     for (auto _ : state) {
         rows[9].value = QString::number(++n);
-        CommitVariables(GeneLispPath(info()), BrimoIniPath(info()), QStringLiteral("Brimo_Gene"), rows);
+        CommitVariables(info().prefix, GeneLispPath(info()), BrimoIniPath(info()), QStringLiteral("Brimo_Gene"), rows);
     }
     setBytes(state);
 }

@@ -39,7 +39,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     }
     NoQuestion question;
     brimo::LegendTable table;
-    const int count = table.LoadLegends(QStringLiteral("C:\\Lang"), QStringLiteral("FRA"), question);
+    const int count = table.LoadLegends({prefix().path()}, QStringLiteral("C:\\Lang"), QStringLiteral("FRA"), question);
 
     // A line ends at CR LF or at CR; the last line needs no line end.
     int lines = 0;

@@ -31,7 +31,7 @@ extern "C" int LLVMFuzzerInitialize(int*, char***) {
 
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
     const QString path = QString::fromUtf8(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size));
-    const QString mapped = brimo::MapWindowsPathText(path);
+    const QString mapped = brimo::MapWindowsPathText({prefix().path()}, path);
     const QString slashed = QString(path).replace(QLatin1Char('\\'), QLatin1Char('/'));
     if (path.isEmpty() || slashed.startsWith(QLatin1String("//"))) FUZZ_CHECK(mapped.isEmpty());
     else {
@@ -41,7 +41,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
         const QStringList names = mapped.mid(folder.size()).split(QLatin1Char('/'));
         FUZZ_CHECK(!names.contains(QStringLiteral(".")) && !names.contains(QStringLiteral("..")));
     }
-    const QString native = brimo::ToNativePath(path);
+    const QString native = brimo::ToNativePath({prefix().path()}, path);
     FUZZ_CHECK(native.compare(mapped, Qt::CaseInsensitive) == 0);
     return 0;
 }

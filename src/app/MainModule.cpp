@@ -127,7 +127,7 @@ int Main(int argc, char* argv[]) {
         if (!error.isEmpty()) std::fprintf(stderr, "Brimo2010: %s\n", error.toLocal8Bit().constData());
     };
     QString error;
-    LoadInstallInfo(module.installInfo, &error);
+    LoadInstallInfo(WinePrefix::FromEnvironment(), module.installInfo, &error);
     report(std::exchange(error, {}));
     // A commit cut off by a kill is finished or undone before Brimo.ini is read.
     RecoverInterruptedCommit(module.installInfo);

@@ -108,8 +108,9 @@ QString HistoryFolder(const QString& nativeIni) {
 }
 
 QList<HistoryEntry> ReadHistory(const QString& nativeIni) {
-    const QString history = HistoryFolder(nativeIni);
     QList<HistoryEntry> entries;
+    if (nativeIni.isEmpty()) return entries; // a Brimo.ini that names no folder here
+    const QString history = HistoryFolder(nativeIni);
     for (const QString& name : QDir(history).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name))
         if (const std::optional<int> number = numberOf(name))
             if (std::optional<HistoryEntry> entry = readEntry(history + QLatin1Char('/') + name, *number))

@@ -112,7 +112,7 @@ PlannedGeneralCommit PlanGeneralCommit(CommitPlan& plan, const InstallInfo& info
 }
 
 GeneralCommitOutcome CommitGeneral(const InstallInfo& info, const GeneralEdit& edit) {
-    const UserFolderLock lock(BrimoIniPath(info));
+    const UserFolderLock lock(info.prefix, BrimoIniPath(info));
     CommitPlan plan(lock);
     GeneralCommitOutcome outcome;
     if ((outcome.unwritable = PlanGeneralCommit(plan, info, edit).unwritable)) {

@@ -42,7 +42,7 @@ void GeneralVariables::setText(QAnyStringView key, const QString& text) { values
 void GeneralVariables::setValue(QAnyStringView key, VariableValue value) { values_[indexOf(key)] = std::move(value); }
 
 void LoadGeneralVariables(const InstallInfo& info, GeneralVariables& variables, QString* error) {
-    LoadGeneralVariables(LoadProfile(BrimoIniPath(info), error), variables);
+    LoadGeneralVariables(LoadProfile(info.prefix, BrimoIniPath(info), error), variables);
 }
 
 void LoadGeneralVariables(const ProfileDocument& ini, GeneralVariables& variables) {

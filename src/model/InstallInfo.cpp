@@ -7,8 +7,9 @@ namespace brimo {
 
 QString ZorelIniPath() { return GetWindowsFolder() + QStringLiteral("\\zorel.ini"); }
 
-void LoadInstallInfo(InstallInfo& info, QString* error) {
-    const ProfileDocument ini = LoadProfile(ZorelIniPath(), error);
+void LoadInstallInfo(const WinePrefix& prefix, InstallInfo& info, QString* error) {
+    info.prefix = prefix;
+    const ProfileDocument ini = LoadProfile(prefix, ZorelIniPath(), error);
     const struct {
         const char* section;
         const char* key;

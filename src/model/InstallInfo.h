@@ -5,11 +5,14 @@
 // Where the add-on lies, where its variable files lie, who the user is, and
 // which versions are installed: six texts read once from zorel.ini.
 
+#include "platform/WindowsPaths.h"
+
 #include <QString>
 
 namespace brimo {
 
 struct InstallInfo {
+    WinePrefix prefix;        // where the Windows drives of these paths lie
     QString Zorel;            // [Chemins] Zorel: install folder of the add-on
     QString Variables;        // [Chemins] Variables: root of the variable files
     QString actuel;           // [Users] actuel: current user; "Default" is held as ""
@@ -18,10 +21,11 @@ struct InstallInfo {
     QString No_serie_acad;    // [VZorel]: displayed only
 };
 
-// Reads the six values, in their order, from GetWindowsFolder() + "\zorel.ini".
+// Reads the six values, in their order, from GetWindowsFolder() + "\zorel.ini"
+// in `prefix`, which the paths joined from them lie in too.
 // A zorel.ini that is there but cannot be read reads as a missing one and
 // sets `error` (see LoadProfile).
-void LoadInstallInfo(InstallInfo& info, QString* error = nullptr);
+void LoadInstallInfo(const WinePrefix& prefix, InstallInfo& info, QString* error = nullptr);
 
 // Paths joined by plain concatenation: no separator is tested or added.
 QString ZorelIniPath();

@@ -38,13 +38,14 @@ LegendTable::LegendTable() { reset(); }
 
 void LegendTable::reset() { entries_.assign(1, emptyEntry()); }
 
-int LegendTable::LoadLegends(const QString& folder, const QString& language, LegendFailureQuestion& question) {
+int LegendTable::LoadLegends(const WinePrefix& prefix, const QString& folder, const QString& language,
+                             LegendFailureQuestion& question) {
     reset();
     QString path = folder;
     if (!path.endsWith(QLatin1Char('\\'))) path += QLatin1Char('\\');
     path += QStringLiteral("ZorelMsg_") + language + QStringLiteral(".txt");
 
-    const auto bytes = ReadWholeFile(ToNativePath(path));
+    const auto bytes = ReadWholeFile(ToNativePath(prefix, path));
     if (bytes && !bytes->isEmpty()) {
         // A line ends at CR LF or at CR; the last line needs no line end.
         entries_.clear();

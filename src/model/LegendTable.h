@@ -4,6 +4,8 @@
 //
 // The legend table: the lines of the language file, looked up by number.
 
+#include "platform/WindowsPaths.h"
+
 #include <QString>
 #include <vector>
 
@@ -33,7 +35,8 @@ public:
     // (a backslash is added to a folder that does not end in one). Returns
     // the number of entries, or -1 after a failed load, which first puts the
     // question to `question` and leaves one empty entry.
-    int LoadLegends(const QString& folder, const QString& language, LegendFailureQuestion& question);
+    int LoadLegends(const WinePrefix& prefix, const QString& folder, const QString& language,
+                    LegendFailureQuestion& question);
 
     // The trimmed text of legend n, or the empty text when n is out of range.
     QString GetLegends(int n) const;

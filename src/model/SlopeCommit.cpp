@@ -120,7 +120,7 @@ QList<CommittedRow> PlanSlopeCommit(CommitPlan& plan, const InstallInfo& info, c
 }
 
 CommitOutcome CommitSlopeVariables(const InstallInfo& info, const SlopeControlState& state) {
-    const UserFolderLock lock(BrimoIniPath(info));
+    const UserFolderLock lock(info.prefix, BrimoIniPath(info));
     CommitPlan plan(lock);
     PlanSlopeCommit(plan, info, state);
     return plan.write();

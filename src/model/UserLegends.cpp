@@ -4,7 +4,7 @@ namespace brimo {
 
 int LoadUserLegends(LegendTable& table, const InstallInfo& info, const GeneralVariables& variables,
                     LegendFailureQuestion& question) {
-    return table.LoadLegends(LegendFolder(info), variables.text(u"x_lang"), question);
+    return table.LoadLegends(info.prefix, LegendFolder(info), variables.text(u"x_lang"), question);
 }
 
 } // namespace brimo

@@ -53,8 +53,8 @@ CommitOutcome writeWithHistory(const QString& iniPath, const QString& nativeIni,
 
 } // namespace
 
-UserFolderLock::UserFolderLock(const QString& iniPath)
-    : iniPath_(iniPath), nativeIni_(ToNativePath(iniPath)), lock_(lockBeside(nativeIni_), kUserFolderLockWait) {
+UserFolderLock::UserFolderLock(const WinePrefix& prefix, const QString& iniPath)
+    : prefix_(prefix), iniPath_(iniPath), nativeIni_(ToNativePath(prefix, iniPath)), lock_(lockBeside(nativeIni_), kUserFolderLockWait) {
     if (nativeIni_.isEmpty()) return; // a path that names no folder here
     if (busy()) {
         std::fprintf(stderr, "Brimo: %s: %s\n", QFile::encodeName(nativeIni_).constData(),
@@ -69,7 +69,7 @@ UserFolderLock::UserFolderLock(const QString& iniPath)
 }
 
 CommitPlan::CommitPlan(const UserFolderLock& lock)
-    : iniPath_(lock.iniPath()), nativeIni_(ToNativePath(lock.iniPath())) {
+    : prefix_(lock.prefix()), iniPath_(lock.iniPath()), nativeIni_(ToNativePath(prefix_, lock.iniPath())) {
     if (lock.busy()) {
         readFailure_ = lock.busyOutcome();
         return;
@@ -91,7 +91,7 @@ void CommitPlan::add(const QString& lispPath, const QString& section, const QLis
         lines.append(row.line);
         keys.append({toCp1252(row.key), toCp1252(row.value)});
     }
-    lispFiles_.append({lispPath, {ToNativePath(lispPath), ComposeLispFile(lines)}});
+    lispFiles_.append({lispPath, {ToNativePath(prefix_, lispPath), ComposeLispFile(lines)}});
     ini_.setStrings(toCp1252(section), keys);
 }
 
@@ -121,9 +121,9 @@ CommitOutcome CommitPlan::write() const {
     return outcome;
 }
 
-CommitOutcome CommitVariables(const QString& lispPath, const QString& iniPath, const QString& section,
+CommitOutcome CommitVariables(const WinePrefix& prefix, const QString& lispPath, const QString& iniPath, const QString& section,
                               const QList<CommittedRow>& rows) {
-    const UserFolderLock lock(iniPath);
+    const UserFolderLock lock(prefix, iniPath);
     CommitPlan plan(lock);
     plan.add(lispPath, section, rows);
     return plan.write();
@@ -131,7 +131,7 @@ CommitOutcome CommitVariables(const QString& lispPath, const QString& iniPath, c
 
 CommitOutcome RestoreHistoryEntry(const UserFolderLock& lock, int number, HistoryEntry* restored) {
     if (lock.busy()) return lock.busyOutcome();
-    const QString nativeIni = ToNativePath(lock.iniPath());
+    const QString nativeIni = lock.nativeIniPath();
     const QList<HistoryEntry> history = ReadHistory(nativeIni);
     const auto entry = std::find_if(history.rbegin(), history.rend(),
                                     [&](const HistoryEntry& e) { return number == 0 || e.number == number; });
@@ -157,6 +157,6 @@ CommitOutcome RestoreHistoryEntry(const UserFolderLock& lock, int number, Histor
     return outcome;
 }
 
-Recovery RecoverInterruptedCommit(const InstallInfo& info) { return UserFolderLock(BrimoIniPath(info)).recovery(); }
+Recovery RecoverInterruptedCommit(const InstallInfo& info) { return UserFolderLock(info.prefix, BrimoIniPath(info)).recovery(); }
 
 } // namespace brimo

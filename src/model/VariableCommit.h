@@ -44,9 +44,11 @@ inline constexpr std::chrono::seconds kUserFolderLockWait{5};
 // finished or undone, so that what is read next is a whole pair.
 class UserFolderLock {
 public:
-    explicit UserFolderLock(const QString& iniPath);
+    UserFolderLock(const WinePrefix& prefix, const QString& iniPath);
 
+    const WinePrefix& prefix() const { return prefix_; }
     const QString& iniPath() const { return iniPath_; }
+    const QString& nativeIniPath() const { return nativeIni_; } // empty when it names no folder here
     // Another program kept the lock through the whole wait: nothing may be
     // written, and the outcome says who holds it.
     bool busy() const { return lock_.state() == FolderLock::State::Busy; }
@@ -54,6 +56,7 @@ public:
     Recovery recovery() const { return recovery_; }
 
 private:
+    WinePrefix prefix_;
     QString iniPath_, nativeIni_;
     FolderLock lock_;
     Recovery recovery_ = Recovery::Nothing;
@@ -89,6 +92,7 @@ private:
     };
     QList<File> files() const;
 
+    WinePrefix prefix_;
     QString iniPath_, nativeIni_, what_ = QStringLiteral("OK");
     CommitOutcome readFailure_;
     QByteArray iniAsRead_;
@@ -97,7 +101,7 @@ private:
 };
 
 // One section's rows, written under the lock of the folder.
-CommitOutcome CommitVariables(const QString& lispPath, const QString& iniPath, const QString& section,
+CommitOutcome CommitVariables(const WinePrefix& prefix, const QString& lispPath, const QString& iniPath, const QString& section,
                               const QList<CommittedRow>& rows);
 
 // Brings back the files of history entry `number` (0: the last one) in the

@@ -8,8 +8,8 @@
 
 namespace brimo {
 
-ProfileDocument LoadProfile(const QString& windowsPath, QString* error) {
-    const QString native = ToNativePath(windowsPath);
+ProfileDocument LoadProfile(const WinePrefix& prefix, const QString& windowsPath, QString* error) {
+    const QString native = ToNativePath(prefix, windowsPath);
     QString why;
     std::optional<QByteArray> bytes = ReadWholeFile(native, &why);
     if (!bytes && error && QFileInfo::exists(native)) *error = windowsPath + QStringLiteral(": ") + why;
@@ -20,15 +20,15 @@ QString ReadProfileString(const ProfileDocument& profile, const QString& section
     return fromCp1252(profile.getString(toCp1252(section), toCp1252(key), bufferSize));
 }
 
-int GetPrivateProfileString(const QString& section, const QString& key, QString& buffer, int bufferSize,
+int GetPrivateProfileString(const WinePrefix& prefix, const QString& section, const QString& key, QString& buffer, int bufferSize,
                             const QString& windowsPath) {
-    buffer = ReadProfileString(LoadProfile(windowsPath), section, key, bufferSize);
+    buffer = ReadProfileString(LoadProfile(prefix, windowsPath), section, key, bufferSize);
     return static_cast<int>(buffer.size());
 }
 
-bool WriteProfileSection(const QString& windowsPath, const QString& section,
+bool WriteProfileSection(const WinePrefix& prefix, const QString& windowsPath, const QString& section,
                          const QList<QPair<QString, QString>>& keyValues, QString* error) {
-    const QString native = ToNativePath(windowsPath);
+    const QString native = ToNativePath(prefix, windowsPath);
     QByteArray existing;
     if (QFileInfo::exists(native)) {
         auto bytes = ReadWholeFile(native, error);
@@ -43,9 +43,9 @@ bool WriteProfileSection(const QString& windowsPath, const QString& section,
     return WriteWholeFile(native, document.bytes(), error);
 }
 
-bool WritePrivateProfileString(const QString& section, const QString& key, const QString& value,
+bool WritePrivateProfileString(const WinePrefix& prefix, const QString& section, const QString& key, const QString& value,
                                const QString& windowsPath, QString* error) {
-    return WriteProfileSection(windowsPath, section, {{key, value}}, error);
+    return WriteProfileSection(prefix, windowsPath, section, {{key, value}}, error);
 }
 
 } // namespace brimo

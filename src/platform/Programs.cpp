@@ -7,16 +7,24 @@
 
 namespace brimo {
 
-bool StartProgram(const QString& windowsPath) {
-    const QString program = ToNativePath(windowsPath.trimmed());
-    // A Windows program runs through Wine, which takes the prefix from the
-    // same WINEPREFIX; where Wine cannot be started, the file is tried as is.
-    if (program.endsWith(QLatin1String(".exe"), Qt::CaseInsensitive) &&
-        QProcess::startDetached(QStringLiteral("wine"), {program}))
-        return true;
+bool StartProgram(const WinePrefix& prefix, const QString& windowsPath) {
+    const QString program = ToNativePath(prefix, windowsPath.trimmed());
+    // A Windows program runs through Wine in the same prefix; where Wine
+    // cannot be started, the file is tried as is.
+    if (program.endsWith(QLatin1String(".exe"), Qt::CaseInsensitive)) {
+        QProcess wine;
+        wine.setProgram(QStringLiteral("wine"));
+        wine.setArguments({program});
+        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+        environment.insert(QStringLiteral("WINEPREFIX"), prefix.folder);
+        wine.setProcessEnvironment(environment);
+        if (wine.startDetached()) return true;
+    }
     return QProcess::startDetached(program, {});
 }
 
-bool FileExists(const QString& windowsPath) { return QFileInfo(ToNativePath(windowsPath)).isFile(); }
+bool FileExists(const WinePrefix& prefix, const QString& windowsPath) {
+    return QFileInfo(ToNativePath(prefix, windowsPath)).isFile();
+}
 
 } // namespace brimo

@@ -5,14 +5,16 @@
 // Other programs and files named by Windows paths: starting a program
 // without waiting for it, and testing whether a file exists.
 
+#include "platform/WindowsPaths.h"
+
 #include <QString>
 
 namespace brimo {
 
 // Starts a program by its Windows path without waiting for it: a .exe
 // through Wine when Wine can be started, anything else directly.
-bool StartProgram(const QString& windowsPath);
+bool StartProgram(const WinePrefix& prefix, const QString& windowsPath);
 // True when a file exists at the Windows path.
-bool FileExists(const QString& windowsPath);
+bool FileExists(const WinePrefix& prefix, const QString& windowsPath);
 
 } // namespace brimo

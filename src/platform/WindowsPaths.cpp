@@ -6,29 +6,19 @@
 
 namespace brimo {
 
-namespace {
-QString& chosenPrefix() {
-    static QString prefix;
-    return prefix;
-}
-} // namespace
-
-void SetWinePrefix(const QString& prefix) { chosenPrefix() = prefix; }
-
-QString WinePrefix() {
-    if (!chosenPrefix().isEmpty()) return chosenPrefix();
+WinePrefix WinePrefix::FromEnvironment() {
     const QString prefix = qEnvironmentVariable("WINEPREFIX");
-    if (!prefix.isEmpty()) return prefix;
-    return qEnvironmentVariable("HOME") + QStringLiteral("/.wine");
+    if (!prefix.isEmpty()) return {prefix};
+    return {qEnvironmentVariable("HOME") + QStringLiteral("/.wine")};
 }
 
 QString GetWindowsFolder() { return QStringLiteral("C:\\windows"); }
 
-QString DriveFolder(QChar letter) {
-    return WinePrefix() + QStringLiteral("/dosdevices/") + letter.toLower() + QLatin1Char(':');
+QString DriveFolder(const WinePrefix& prefix, QChar letter) {
+    return prefix.folder + QStringLiteral("/dosdevices/") + letter.toLower() + QLatin1Char(':');
 }
 
-QString MapWindowsPathText(const QString& windowsPath) {
+QString MapWindowsPathText(const WinePrefix& prefix, const QString& windowsPath) {
     if (windowsPath.isEmpty()) return {};
     QString path = windowsPath;
     path.replace(QLatin1Char('\\'), QLatin1Char('/'));
@@ -39,7 +29,7 @@ QString MapWindowsPathText(const QString& windowsPath) {
     // current drive, C:, whose current folder is its root.
     const QChar first = path.at(0);
     const bool drive = path.size() >= 2 && path.at(1) == QLatin1Char(':') && first.unicode() < 128 && first.isLetter();
-    const QString head = DriveFolder(drive ? first : QLatin1Char('c'));
+    const QString head = DriveFolder(prefix, drive ? first : QLatin1Char('c'));
     QStringView rest = QStringView(path).mid(drive ? 2 : 0);
     if (rest.startsWith(QLatin1Char('/'))) rest = rest.mid(1);
 
@@ -77,8 +67,8 @@ QString findIgnoringCase(const QString& folder, const QString& name) {
 
 } // namespace
 
-QString ToNativePath(const QString& windowsPath) {
-    const QString mapped = MapWindowsPathText(windowsPath);
+QString ToNativePath(const WinePrefix& prefix, const QString& windowsPath) {
+    const QString mapped = MapWindowsPathText(prefix, windowsPath);
     if (mapped.isEmpty() || QFileInfo::exists(mapped)) return mapped;
 
     // Walk the components and repair the spelling of those that differ only

@@ -7,21 +7,23 @@
 
 namespace brimo {
 
-// $WINEPREFIX, or $HOME/.wine when WINEPREFIX is unset or empty. This is the
-// only place where the program reads its environment.
-QString WinePrefix();
+// The Wine prefix that a run works on: the folder that holds the drives of
+// a Windows installation (dosdevices/x:). It is handed down as a value, so
+// that one process can work on several prefixes in turn.
+struct WinePrefix {
+    QString folder;
 
-// Makes `prefix` the prefix of the run in place of the environment's, so that
-// one process can work on several prefixes in turn; the empty text goes back
-// to the environment.
-void SetWinePrefix(const QString& prefix);
+    // $WINEPREFIX, or $HOME/.wine when WINEPREFIX is unset or empty. This is
+    // the only place where the program reads its environment.
+    static WinePrefix FromEnvironment();
+};
 
 // The Windows folder as a Windows path text, without a trailing backslash
 // ("C:\windows"), the way the platform reports it.
 QString GetWindowsFolder();
 
-// The folder of drive `letter` in the prefix: $WINEPREFIX/dosdevices/x:.
-QString DriveFolder(QChar letter);
+// The folder of drive `letter` in the prefix: <prefix>/dosdevices/x:.
+QString DriveFolder(const WinePrefix& prefix, QChar letter);
 
 // Maps a Windows path text to a native path, as Windows resolves it:
 //   "X:\..." and "X:..."  -> DriveFolder(X) + "/..."
@@ -35,9 +37,9 @@ QString DriveFolder(QChar letter);
 // does not exist with that spelling is looked up without regard to case in
 // its folder, as Windows finds names; a component that does not exist at all
 // keeps the program's spelling (so a file being created takes that name).
-QString ToNativePath(const QString& windowsPath);
+QString ToNativePath(const WinePrefix& prefix, const QString& windowsPath);
 
 // The same mapping without looking at the file system: the text only.
-QString MapWindowsPathText(const QString& windowsPath);
+QString MapWindowsPathText(const WinePrefix& prefix, const QString& windowsPath);
 
 } // namespace brimo

@@ -4,6 +4,7 @@
 //
 // The four commands. Each returns the exit status of the tool.
 
+#include "platform/WindowsPaths.h"
 #include "settings/Options.h"
 
 #include <functional>
@@ -47,10 +48,11 @@ RunResult RunRestore(const Options& options);
 
 // Runs `each` with every prefix of the options in force in turn (or once, on
 // the environment's), after testing that the prefix is a folder; `each` gets
-// the prefix and says whether it succeeded; `missing`, when given, is told
-// of a prefix that is no folder. Returns the number of failures.
-int ForEachPrefix(const Options& options, const std::function<bool(const QString& prefix)>& each,
-                  const std::function<void(const QString& prefix, const QString& error)>& missing = {});
+// the prefix and says whether it succeeded; `failed`, when given, is told
+// of a prefix that is no folder or cannot be worked on as its owner.
+// Returns the number of failures.
+int ForEachPrefix(const Options& options, const std::function<bool(const WinePrefix& prefix)>& each,
+                  const std::function<void(const QString& prefix, const QString& error)>& failed = {});
 
 // Text on the standard output and the standard error, in UTF-8.
 void Print(const QString& text);

@@ -67,14 +67,15 @@ private:
 
 } // namespace
 
-int ForEachPrefix(const Options& options, const std::function<bool(const QString& prefix)>& each,
+int ForEachPrefix(const Options& options, const std::function<bool(const WinePrefix& prefix)>& each,
                   const std::function<void(const QString& prefix, const QString& error)>& missing) {
     // No --prefix: the one of the environment, as the program finds it.
-    const QStringList prefixes = options.prefixes.isEmpty() ? QStringList{QString()} : options.prefixes;
+    QList<WinePrefix> prefixes;
+    for (const QString& folder : options.prefixes) prefixes.append({folder});
+    if (prefixes.isEmpty()) prefixes.append(WinePrefix::FromEnvironment());
     int failures = 0;
-    for (const QString& prefix : prefixes) {
-        SetWinePrefix(prefix);
-        const QString inForce = WinePrefix();
+    for (const WinePrefix& prefix : prefixes) {
+        const QString& inForce = prefix.folder;
         if (!QFileInfo(inForce).isDir()) {
             Complain(QStringLiteral("%1: no such folder").arg(inForce));
             if (missing) missing(inForce, QStringLiteral("no such folder"));
@@ -86,9 +87,8 @@ int ForEachPrefix(const Options& options, const std::function<bool(const QString
             Complain(QStringLiteral("%1: %2").arg(inForce, owner.error()));
             if (missing) missing(inForce, owner.error());
         }
-        if (!owner.error().isEmpty() || !each(inForce)) ++failures;
+        if (!owner.error().isEmpty() || !each(prefix)) ++failures;
     }
-    SetWinePrefix(QString());
     return failures;
 }
 

@@ -35,9 +35,9 @@ QList<ShownValue> chosen(const QList<ShownValue>& all, const QStringList& keys) 
 
 // A zorel.ini or Brimo.ini that is there but cannot be read fails the prefix:
 // its defaults would pass for the user's values.
-bool readable(const QString& prefix, const UserFiles& user) {
+bool readable(const UserFiles& user) {
     for (const QString& error : user.readError().split(QLatin1Char('\n'), Qt::SkipEmptyParts))
-        Complain(QStringLiteral("%1: %2").arg(prefix, error));
+        Complain(QStringLiteral("%1: %2").arg(user.info().prefix.folder, error));
     return user.readError().isEmpty();
 }
 
@@ -68,9 +68,10 @@ RunResult RunGet(const Options& options) {
             return {true};
         }
     QJsonArray json;
-    const int failures = ForEachPrefix(options, [&](const QString& prefix) {
-        const UserFiles user(options.user);
-        if (!readable(prefix, user)) return false;
+    const int failures = ForEachPrefix(options, [&](const WinePrefix& wine) {
+        const UserFiles user(wine, options.user);
+        if (!readable(user)) return false;
+        const QString& prefix = wine.folder;
         const QList<ShownValue> values = chosen(user.values(options.section), options.arguments);
         if (options.json) {
             json.append(jsonOf(prefix, user, options.section, values));
@@ -92,9 +93,9 @@ RunResult RunExport(const Options& options) {
         return {true};
     }
     ProfileDocument profile;
-    const int failures = ForEachPrefix(options, [&](const QString& prefix) {
-        const UserFiles user(options.user);
-        if (!readable(prefix, user)) return false;
+    const int failures = ForEachPrefix(options, [&](const WinePrefix& wine) {
+        const UserFiles user(wine, options.user);
+        if (!readable(user)) return false;
         for (SettingSection section : kBothSections) {
             QList<ProfileDocument::KeyValue> keys;
             for (const ShownValue& value : user.committedValues(section))
@@ -125,9 +126,10 @@ RunResult RunHistory(const Options& options) {
         return {true};
     }
     QJsonArray json;
-    const int failures = ForEachPrefix(options, [&](const QString& prefix) {
-        const UserFiles user(options.user);
-        const QList<HistoryEntry> history = ReadHistory(ToNativePath(user.lock().iniPath()));
+    const int failures = ForEachPrefix(options, [&](const WinePrefix& wine) {
+        const QString& prefix = wine.folder;
+        const UserFiles user(wine, options.user);
+        const QList<HistoryEntry> history = ReadHistory(user.lock().nativeIniPath());
         if (!options.json) {
             if (options.prefixes.size() > 1) Print(QStringLiteral("# %1\n").arg(prefix));
             for (const HistoryEntry& entry : history)

@@ -12,12 +12,12 @@
 
 namespace brimo {
 
-UserFiles::UserFiles(const std::optional<QString>& user) {
+UserFiles::UserFiles(const WinePrefix& prefix, const std::optional<QString>& user) {
     QString zorelError, brimoError;
-    LoadInstallInfo(info_, &zorelError);
+    LoadInstallInfo(prefix, info_, &zorelError);
     if (user) info_.actuel = *user == QLatin1String("Default") ? QString() : *user;
-    lock_.emplace(BrimoIniPath(info_));
-    ini_ = LoadProfile(BrimoIniPath(info_), &brimoError);
+    lock_.emplace(prefix, BrimoIniPath(info_));
+    ini_ = LoadProfile(prefix, BrimoIniPath(info_), &brimoError);
     LoadGeneralVariables(info_, variables_);
     for (const QString& error : {zorelError, brimoError})
         if (!error.isEmpty()) readError_ += (readError_.isEmpty() ? QString() : QStringLiteral("\n")) + error;
@@ -64,7 +64,7 @@ std::optional<QList<CommittedRow>> UserFiles::planCommit(CommitPlan& plan, Setti
         const qsizetype length = ini_.getString(toCp1252(SectionName(section)), toCp1252(key.key), 1 << 30).size();
         if (length > 254 && std::none_of(edits.begin(), edits.end(), [&](const Edit& e) { return e.key == &key; }))
             Complain(QStringLiteral("%1: %2: the stored text of %3 characters is cut to 254, as the dialog reads it")
-                         .arg(WinePrefix(), key.key)
+                         .arg(info_.prefix.folder, key.key)
                          .arg(length));
     }
     GeneralEdit edit{variables_, LoadedControlState(variables_), {}};

@@ -28,7 +28,7 @@ public:
     // program's entry does; `user` stands in for [Users] actuel. The lock is
     // held until this object ends, so that no other program writes between
     // what is read here and what is written.
-    explicit UserFiles(const std::optional<QString>& user);
+    UserFiles(const WinePrefix& prefix, const std::optional<QString>& user);
 
     const InstallInfo& info() const { return info_; }
     const UserFolderLock& lock() const { return *lock_; }

@@ -120,9 +120,9 @@ void printText(const PrefixReport& report, bool check) {
 
 // One prefix: compose every commit, compare with the files, write when they
 // differ (unless only checking).
-PrefixReport commitOnPrefix(const Options& options, const SectionEdits& edits, const QString& prefix) {
-    const UserFiles user(options.user);
-    PrefixReport report{prefix, user.info().actuel, false, {}, {}, {}};
+PrefixReport commitOnPrefix(const Options& options, const SectionEdits& edits, const WinePrefix& prefix) {
+    const UserFiles user(prefix, options.user);
+    PrefixReport report{prefix.folder, user.info().actuel, false, {}, {}, {}};
     if (user.lock().busy()) {
         report.error = QStringLiteral("%1: %2").arg(user.lock().iniPath(), user.lock().busyOutcome().reason);
         return report;
@@ -152,13 +152,13 @@ PrefixReport commitOnPrefix(const Options& options, const SectionEdits& edits, c
 // Runs `each` on every prefix, reports each as text or gathers it for one
 // JSON document, and counts.
 RunResult reportEverywhere(const Options& options, const QStringList& refusals,
-                           const std::function<PrefixReport(const QString& prefix)>& each) {
+                           const std::function<PrefixReport(const WinePrefix& prefix)>& each) {
     RunResult result;
     result.refused = !refusals.isEmpty();
     QJsonArray prefixes;
     int alreadySo = 0;
     if (!result.refused) {
-        result.failed = ForEachPrefix(options, [&](const QString& prefix) {
+        result.failed = ForEachPrefix(options, [&](const WinePrefix& prefix) {
             const PrefixReport report = each(prefix);
             if (options.json) prefixes.append(jsonOf(report));
             else printText(report, options.check);
@@ -194,14 +194,15 @@ RunResult reportEverywhere(const Options& options, const QStringList& refusals,
 }
 
 RunResult commitEverywhere(const Options& options, const SectionEdits& edits, const QStringList& refusals) {
-    return reportEverywhere(options, refusals, [&](const QString& prefix) { return commitOnPrefix(options, edits, prefix); });
+    return reportEverywhere(options, refusals,
+                            [&](const WinePrefix& prefix) { return commitOnPrefix(options, edits, prefix); });
 }
 
 // One prefix: the files of a history entry brought back.
-PrefixReport restoreOnPrefix(const Options& options, int number, const QString& prefix) {
-    const UserFiles user(options.user);
-    PrefixReport report{prefix, user.info().actuel, false, {}, {}, {}};
-    const QString nativeIni = ToNativePath(user.lock().iniPath());
+PrefixReport restoreOnPrefix(const Options& options, int number, const WinePrefix& prefix) {
+    const UserFiles user(prefix, options.user);
+    PrefixReport report{prefix.folder, user.info().actuel, false, {}, {}, {}};
+    const QString nativeIni = user.lock().nativeIniPath();
     const QList<HistoryEntry> history = ReadHistory(nativeIni);
     const HistoryEntry* entry = nullptr;
     for (const HistoryEntry& each : history)
@@ -256,7 +257,8 @@ RunResult RunRestore(const Options& options) {
         number = options.arguments.first().toInt(&ok);
         if (!ok || number <= 0) refuse(QStringLiteral("%1: no entry number").arg(options.arguments.first()), refusals);
     }
-    return reportEverywhere(options, refusals, [&](const QString& prefix) { return restoreOnPrefix(options, number, prefix); });
+    return reportEverywhere(options, refusals,
+                            [&](const WinePrefix& prefix) { return restoreOnPrefix(options, number, prefix); });
 }
 
 } // namespace brimo

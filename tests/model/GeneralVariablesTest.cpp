@@ -11,6 +11,7 @@ using test::ScratchPrefix;
 
 InstallInfo userInfo() {
     InstallInfo info;
+    info.prefix = WinePrefix::FromEnvironment();
     info.Variables = QStringLiteral("C:\\Zorel\\Var");
     info.actuel = QStringLiteral("Bureau1");
     return info;

@@ -16,7 +16,7 @@ TEST(InstallInfo, ReadsSixValuesAndHoldsDefaultAsTheEmptyUser) {
                         "[Users]\r\nactuel=Default\r\n[VZorel]\r\nNo_version_Zorel=2010\r\n"
                         "No_version_acad=\r\nNo_serie_acad=123-é\r\n"));
     InstallInfo info;
-    LoadInstallInfo(info);
+    LoadInstallInfo(WinePrefix::FromEnvironment(), info);
     EXPECT_EQ(info.Zorel, QStringLiteral("C:\\Zorel\\"));
     EXPECT_EQ(info.Variables, QStringLiteral("C:\\Zorel\\Var"));
     EXPECT_EQ(info.actuel, QString());
@@ -61,7 +61,7 @@ TEST(InstallInfo, OnlyTheExactWordDefaultIsTheEmptyUser) {
         ScratchPrefix prefix;
         prefix.writeZorelIni(QStringLiteral("C:\\Z"), QStringLiteral("C:\\V"), QString::fromUtf8(stored));
         InstallInfo info;
-        LoadInstallInfo(info);
+        LoadInstallInfo(WinePrefix::FromEnvironment(), info);
         EXPECT_EQ(info.actuel, QString::fromUtf8(held));
     }
 }
@@ -72,7 +72,7 @@ TEST(InstallInfo, MissingEmptyOrBinaryZorelIniGivesEmptyValues) {
         ScratchPrefix prefix;
         if (!bytes.isEmpty()) prefix.write(QStringLiteral("C:\\windows\\zorel.ini"), bytes);
         InstallInfo info;
-        LoadInstallInfo(info);
+        LoadInstallInfo(WinePrefix::FromEnvironment(), info);
         EXPECT_EQ(info.Zorel, QString());
         EXPECT_EQ(info.Variables, QString());
     }

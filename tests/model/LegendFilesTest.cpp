@@ -43,7 +43,7 @@ public:
     }
     int load(LegendTable& table, const QString& language) {
         NoQuestion question;
-        return table.LoadLegends(QStringLiteral("C:\\Zorel\\Lang\\"), language, question);
+        return table.LoadLegends(WinePrefix::FromEnvironment(), QStringLiteral("C:\\Zorel\\Lang\\"), language, question);
     }
 
 private:

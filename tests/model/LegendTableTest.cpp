@@ -34,7 +34,7 @@ struct Loaded {
 void load(Loaded& out, const QByteArray& bytes, const QString& folder = kFolder) {
     ScratchPrefix prefix;
     prefix.write(QStringLiteral("C:\\Zorel\\Lang\\ZorelMsg_FRA.txt"), bytes);
-    out.result = out.table.LoadLegends(folder, QStringLiteral("FRA"), out.question);
+    out.result = out.table.LoadLegends(WinePrefix::FromEnvironment(), folder, QStringLiteral("FRA"), out.question);
 }
 
 TEST(LegendTable, LinesAreNumberedFromOneAndLookedUpByNumber) {
@@ -86,7 +86,7 @@ TEST(LegendTable, TextIsCutAt255Characters) {
 
 TEST(LegendTable, FailedLoadsAskAndLeaveOneEmptyEntry) {
     Loaded missing;
-    missing.table.LoadLegends(kFolder, QStringLiteral("DEU"), missing.question);
+    missing.table.LoadLegends(WinePrefix::FromEnvironment(), kFolder, QStringLiteral("DEU"), missing.question);
     for (Loaded* l : {&missing}) {
         EXPECT_EQ(l->question.asked, 1);
         EXPECT_EQ(l->question.title, QStringLiteral("MainModule"));
@@ -106,7 +106,7 @@ TEST(LegendTable, FailedLoadsAskAndLeaveOneEmptyEntry) {
     {
         ScratchPrefix prefix;
         prefix.makeFolder(QStringLiteral("C:\\Zorel\\Lang\\ZorelMsg_FRA.txt"));
-        EXPECT_EQ(folder.table.LoadLegends(kFolder, QStringLiteral("FRA"), folder.question), -1);
+        EXPECT_EQ(folder.table.LoadLegends(WinePrefix::FromEnvironment(), kFolder, QStringLiteral("FRA"), folder.question), -1);
     }
     EXPECT_EQ(folder.question.asked, 1);
 
@@ -118,7 +118,7 @@ TEST(LegendTable, FailedLoadsAskAndLeaveOneEmptyEntry) {
     // A good table is lost on a failed reload.
     Loaded reload;
     load(reload, "0001 un\r\n");
-    EXPECT_EQ(reload.table.LoadLegends(kFolder, QStringLiteral("ITA"), reload.question), -1);
+    EXPECT_EQ(reload.table.LoadLegends(WinePrefix::FromEnvironment(), kFolder, QStringLiteral("ITA"), reload.question), -1);
     EXPECT_EQ(reload.table.GetLegends(1), QString());
 }
 
@@ -127,9 +127,9 @@ TEST(LegendTable, FolderGetsOneBackslashAndNamesMatchWithoutCase) {
     prefix.write(QStringLiteral("C:\\Zorel\\Lang\\ZorelMsg_FRA.txt"), "0001 un\r\n");
     RecordingQuestion question;
     LegendTable table;
-    EXPECT_EQ(table.LoadLegends(QStringLiteral("C:\\Zorel\\Lang\\"), QStringLiteral("FRA"), question), 1);
-    EXPECT_EQ(table.LoadLegends(QStringLiteral("c:\\zorel\\lang"), QStringLiteral("fra"), question), 1);
-    EXPECT_EQ(table.LoadLegends(QStringLiteral("C:\\Zorel"), QStringLiteral("FRA"), question), -1);
+    EXPECT_EQ(table.LoadLegends(WinePrefix::FromEnvironment(), QStringLiteral("C:\\Zorel\\Lang\\"), QStringLiteral("FRA"), question), 1);
+    EXPECT_EQ(table.LoadLegends(WinePrefix::FromEnvironment(), QStringLiteral("c:\\zorel\\lang"), QStringLiteral("fra"), question), 1);
+    EXPECT_EQ(table.LoadLegends(WinePrefix::FromEnvironment(), QStringLiteral("C:\\Zorel"), QStringLiteral("FRA"), question), -1);
     EXPECT_EQ(question.asked, 1);
 }
 

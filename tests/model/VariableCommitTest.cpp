@@ -28,7 +28,7 @@ TEST(VariableCommit, WritesBothFilesAndKeepsTheRestOfTheProfile) {
     // A read-only staged copy that a killed commit left does not stop this one.
     prefix.write(kIni + ".brimo-new", "left by a kill");
     QFile::setPermissions(prefix.native(kIni + ".brimo-new"), QFileDevice::ReadOwner);
-    const CommitOutcome outcome = CommitVariables(kLisp, kIni, QStringLiteral("Brimo_Gene"), kRows);
+    const CommitOutcome outcome = CommitVariables(WinePrefix::FromEnvironment(), kLisp, kIni, QStringLiteral("Brimo_Gene"), kRows);
     ASSERT_TRUE(outcome.ok) << outcome.reason.toStdString();
     EXPECT_EQ(prefix.read(kLisp), QByteArray("(setq a 1) ;A\r\n(setq b \"\xe9\") ;B\r\n"));
     EXPECT_EQ(prefix.read(kIni),
@@ -40,7 +40,7 @@ TEST(VariableCommit, WritesBothFilesAndKeepsTheRestOfTheProfile) {
 TEST(VariableCommit, CreatesTheProfileWhenTheFolderExists) {
     ScratchPrefix prefix;
     prefix.makeFolder(QStringLiteral("C:\\Var\\U"));
-    ASSERT_TRUE(CommitVariables(kLisp, kIni, QStringLiteral("Brimo_Gene"), kRows).ok);
+    ASSERT_TRUE(CommitVariables(WinePrefix::FromEnvironment(), kLisp, kIni, QStringLiteral("Brimo_Gene"), kRows).ok);
     EXPECT_EQ(prefix.read(kIni), QByteArray("[Brimo_Gene]\r\na=1\r\nb=\xe9\r\n"));
 }
 
@@ -52,7 +52,7 @@ TEST(VariableCommit, WritesThroughALinkAndRecoversThroughIt) {
     prefix.write(shared, "[Brimo_Gene]\r\nB=old\r\n");
     prefix.makeFolder(QStringLiteral("C:\\Var\\U"));
     ASSERT_TRUE(QFile::link(prefix.native(shared), prefix.native(kIni)));
-    ASSERT_TRUE(CommitVariables(kLisp, kIni, QStringLiteral("Brimo_Gene"), kRows).ok);
+    ASSERT_TRUE(CommitVariables(WinePrefix::FromEnvironment(), kLisp, kIni, QStringLiteral("Brimo_Gene"), kRows).ok);
     EXPECT_TRUE(QFileInfo(prefix.native(kIni)).isSymLink());
     EXPECT_EQ(prefix.read(shared), QByteArray("[Brimo_Gene]\r\nB=\xe9\r\na=1\r\n"));
     EXPECT_EQ(QDir(prefix.native(QStringLiteral("C:\\Shared"))).entryList(QDir::Files | QDir::Hidden),
@@ -63,6 +63,7 @@ TEST(VariableCommit, WritesThroughALinkAndRecoversThroughIt) {
     prefix.write(QStringLiteral("C:\\Var\\U\\Brimo.commit-journal"),
                  ComposeCommitJournal({{"Brimo.ini.brimo-new", "Brimo.ini"}}));
     InstallInfo info;
+    info.prefix = WinePrefix::FromEnvironment();
     info.Variables = QStringLiteral("C:\\Var");
     info.actuel = QStringLiteral("U");
     EXPECT_EQ(RecoverInterruptedCommit(info), Recovery::RolledForward);
@@ -74,7 +75,7 @@ TEST(VariableCommit, WritesThroughALinkAndRecoversThroughIt) {
 TEST(VariableCommit, AFailureChangesNothingAndNamesTheFile) {
     {
         ScratchPrefix prefix; // an empty Variables and user: "\\Brimo_Gene.lsp" names nothing
-        const CommitOutcome outcome = CommitVariables(QStringLiteral("\\\\Brimo_Gene.lsp"), QStringLiteral("\\\\Brimo.ini"),
+        const CommitOutcome outcome = CommitVariables(WinePrefix::FromEnvironment(), QStringLiteral("\\\\Brimo_Gene.lsp"), QStringLiteral("\\\\Brimo.ini"),
                                                       QStringLiteral("Brimo_Gene"), kRows);
         EXPECT_FALSE(outcome.ok);
         EXPECT_EQ(outcome.file, QStringLiteral("\\\\Brimo_Gene.lsp"));
@@ -82,7 +83,7 @@ TEST(VariableCommit, AFailureChangesNothingAndNamesTheFile) {
     }
     {
         ScratchPrefix prefix; // the folder is missing
-        const CommitOutcome outcome = CommitVariables(kLisp, kIni, QStringLiteral("Brimo_Gene"), kRows);
+        const CommitOutcome outcome = CommitVariables(WinePrefix::FromEnvironment(), kLisp, kIni, QStringLiteral("Brimo_Gene"), kRows);
         EXPECT_FALSE(outcome.ok);
         EXPECT_EQ(outcome.file, kLisp);
         EXPECT_FALSE(prefix.exists(kIni));
@@ -91,7 +92,7 @@ TEST(VariableCommit, AFailureChangesNothingAndNamesTheFile) {
         ScratchPrefix prefix; // a folder named Brimo.ini: the Lisp file must stay as it was
         prefix.write(kLisp, "old\r\n");
         prefix.makeFolder(kIni);
-        const CommitOutcome outcome = CommitVariables(kLisp, kIni, QStringLiteral("Brimo_Gene"), kRows);
+        const CommitOutcome outcome = CommitVariables(WinePrefix::FromEnvironment(), kLisp, kIni, QStringLiteral("Brimo_Gene"), kRows);
         EXPECT_FALSE(outcome.ok);
         EXPECT_EQ(outcome.file, kIni);
         EXPECT_FALSE(outcome.reason.isEmpty());

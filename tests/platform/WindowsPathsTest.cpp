@@ -30,28 +30,28 @@ TEST(WindowsPaths, TextMapping) {
         {"C:..", c + "/"},
         {"\xc3\xa9:\\x", c + "/\xc3\xa9:/x"},
     };
-    for (const auto& [text, native] : cases) EXPECT_EQ(MapWindowsPathText(QString::fromUtf8(text)), native) << text;
+    for (const auto& [text, native] : cases) EXPECT_EQ(MapWindowsPathText(WinePrefix::FromEnvironment(), QString::fromUtf8(text)), native) << text;
     EXPECT_EQ(GetWindowsFolder(), QStringLiteral("C:\\windows"));
 }
 
 TEST(WindowsPaths, NamesAreFoundWithoutRegardToCase) {
     ScratchPrefix prefix;
     prefix.write(QStringLiteral("C:\\Zorel\\Lang\\ZorelMsg_FRA.txt"), "x");
-    EXPECT_EQ(ToNativePath(QStringLiteral("C:\\zorel\\LANG\\ZorelMsg_fra.txt")),
+    EXPECT_EQ(ToNativePath(WinePrefix::FromEnvironment(), QStringLiteral("C:\\zorel\\LANG\\ZorelMsg_fra.txt")),
               prefix.root() + "/dosdevices/c:/Zorel/Lang/ZorelMsg_FRA.txt");
     // A missing file keeps the program's spelling; its folder is still found.
-    EXPECT_EQ(ToNativePath(QStringLiteral("C:\\ZOREL\\New.lsp")), prefix.root() + "/dosdevices/c:/Zorel/New.lsp");
+    EXPECT_EQ(ToNativePath(WinePrefix::FromEnvironment(), QStringLiteral("C:\\ZOREL\\New.lsp")), prefix.root() + "/dosdevices/c:/Zorel/New.lsp");
     // Doubled separators are left to the file system.
-    EXPECT_EQ(ToNativePath(QStringLiteral("C:\\Zorel\\\\lang")), prefix.root() + "/dosdevices/c:/Zorel//Lang");
+    EXPECT_EQ(ToNativePath(WinePrefix::FromEnvironment(), QStringLiteral("C:\\Zorel\\\\lang")), prefix.root() + "/dosdevices/c:/Zorel//Lang");
 }
 
 TEST(WindowsPaths, PrefixDefaultsToDotWineInHome) {
     ScratchPrefix prefix;
     const QByteArray saved = qgetenv("WINEPREFIX");
     qunsetenv("WINEPREFIX");
-    EXPECT_EQ(WinePrefix(), qEnvironmentVariable("HOME") + "/.wine");
+    EXPECT_EQ(WinePrefix::FromEnvironment().folder, qEnvironmentVariable("HOME") + "/.wine");
     qputenv("WINEPREFIX", "");
-    EXPECT_EQ(WinePrefix(), qEnvironmentVariable("HOME") + "/.wine");
+    EXPECT_EQ(WinePrefix::FromEnvironment().folder, qEnvironmentVariable("HOME") + "/.wine");
     qputenv("WINEPREFIX", saved);
 }
 

@@ -22,7 +22,7 @@ public:
         for (const QPointer<QWidget>& form : forms_) delete form.data();
     }
 
-    InstallInfo info;
+    InstallInfo info{.prefix = WinePrefix::FromEnvironment()}; // the scratch prefix of the test
     GeneralVariables variables;
     LegendTable legends;
     QList<FormKind> shown; // forms asked for, in order
@@ -39,7 +39,7 @@ public:
 
     // The three loads in the order of the program's entry.
     void load() {
-        LoadInstallInfo(info);
+        LoadInstallInfo(WinePrefix::FromEnvironment(), info);
         LoadGeneralVariables(info, variables);
         loadLegends();
     }

@@ -155,13 +155,13 @@ void CAboutForm::Form_Load() {
     for (const ComposedLabel& composed : ComposeVersionLabels(info_))
         setLabelText(findChild<QLabel*>(composed.label), composed.text);
 
-    findChild<QPushButton*>(QStringLiteral("Command1"))->setEnabled(FileExists(kSystemInfoTool));
+    findChild<QPushButton*>(QStringLiteral("Command1"))->setEnabled(FileExists(info_.prefix, kSystemInfoTool));
 }
 
 void CAboutForm::cmdOK_Click() { close(); }
 
 // The command text keeps the blank behind the name, as the tool was always
 // started; StartProgram takes the path from it.
-void CAboutForm::Command1_Click() { StartProgram(kSystemInfoTool + QLatin1Char(' ')); }
+void CAboutForm::Command1_Click() { StartProgram(info_.prefix, kSystemInfoTool + QLatin1Char(' ')); }
 
 } // namespace brimo

@@ -169,11 +169,11 @@ void CGeneralForm::ProgramLocation_Click(const ProgramLocation& location) {
     dialog.setAcceptMode(QFileDialog::AcceptOpen);
     // Any name comes back, also one of a file that does not exist.
     dialog.setFileMode(QFileDialog::AnyFile);
-    if (!field->text().isEmpty()) dialog.selectFile(ToNativePath(field->text()));
+    if (!field->text().isEmpty()) dialog.selectFile(ToNativePath(info_.prefix, field->text()));
     if (dialog.exec() != QDialog::Accepted) return;
     const QStringList chosen = dialog.selectedFiles();
     if (chosen.isEmpty() || chosen.first().isEmpty()) return;
-    field->setText(FieldTextForChosenFile(chosen.first()));
+    field->setText(FieldTextForChosenFile(info_.prefix, chosen.first()));
     field->setCursorPosition(0);
 }
 

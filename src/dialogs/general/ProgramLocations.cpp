@@ -57,11 +57,11 @@ QStringList spellingsOf(const QString& path) {
 
 } // namespace
 
-QString FieldTextForChosenFile(const QString& nativePath) {
-    const QStringList prefixes = spellingsOf(WinePrefix());
+QString FieldTextForChosenFile(const WinePrefix& prefix, const QString& nativePath) {
+    const QStringList prefixes = spellingsOf(prefix.folder);
     for (const QString& path : spellingsOf(nativePath))
-        for (const QString& prefix : prefixes) {
-            const QString text = windowsTextInside(path, prefix);
+        for (const QString& folder : prefixes) {
+            const QString text = windowsTextInside(path, folder);
             if (!text.isEmpty()) return text;
         }
     return nativePath;

@@ -4,6 +4,7 @@
 // Windows-style texts that the fields hold.
 
 #include "model/LegendNumbers.h"
+#include "platform/WindowsPaths.h"
 
 #include <QString>
 
@@ -40,6 +41,6 @@ QString ToolkitFileFilter(const QString& windowsFilter);
 // The text a field takes for a file chosen in the dialog: a file inside the
 // Wine prefix's drives as a Windows path ("C:\..."), any other file as its
 // native path.
-QString FieldTextForChosenFile(const QString& nativePath);
+QString FieldTextForChosenFile(const WinePrefix& prefix, const QString& nativePath);
 
 } // namespace brimo

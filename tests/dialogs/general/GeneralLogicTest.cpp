@@ -81,7 +81,7 @@ TEST(ProgramLocationsTest, AChosenFileInsideThePrefixBecomesAWindowsPath) {
         {"/usr/bin/env", "/usr/bin/env"},
         {prefix.root() + "/drive_cx/b.exe", prefix.root() + "/drive_cx/b.exe"},
     };
-    for (const auto& [native, text] : cases) EXPECT_EQ(FieldTextForChosenFile(native), text) << native.toStdString();
+    for (const auto& [native, text] : cases) EXPECT_EQ(FieldTextForChosenFile(WinePrefix::FromEnvironment(), native), text) << native.toStdString();
 }
 
 } // namespace

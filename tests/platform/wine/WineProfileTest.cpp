@@ -194,9 +194,8 @@ protected:
         // Our side reaches its files through drive Z:, as Wine does: a link to "/".
         QDir().mkpath(scratch.path() + "/prefix/dosdevices");
         QFile::link("/", scratch.path() + "/prefix/dosdevices/z:");
-        SetWinePrefix(scratch.path() + "/prefix");
     }
-    void TearDown() override { SetWinePrefix({}); }
+    WinePrefix ourPrefix() const { return {scratch.path() + "/prefix"}; }
     static QString onZ(const QString& path) { return QString::fromLocal8Bit(WineSession::windowsPath(path)); }
 
     static void put(const QString& path, const QByteArray& bytes) {
@@ -219,9 +218,9 @@ protected:
     static QByteArray readLine(const QByteArray& file, const Read& r) {
         return "G " + encodeField(file) + ' ' + encodeField(r.section) + ' ' + encodeField(r.key) + '\n';
     }
-    static QByteArray ourRead(const QString& path, const Read& r) {
+    QByteArray ourRead(const QString& path, const Read& r) const {
         QString buffer;
-        const int n = GetPrivateProfileString(fromCp1252(r.section), fromCp1252(r.key), buffer, 255, onZ(path));
+        const int n = GetPrivateProfileString(ourPrefix(), fromCp1252(r.section), fromCp1252(r.key), buffer, 255, onZ(path));
         return QByteArray::number(n) + ' ' + encodeField(toCp1252(buffer));
     }
 
@@ -305,7 +304,7 @@ TEST_F(WineProfile, WritesLeaveTheSameContent) {
     qsizetype answer = 0;
     for (const WriteCase& c : cases) {
         for (const Put& p : c.puts) {
-            const bool ours = WritePrivateProfileString(fromCp1252(p.section), fromCp1252(p.key), fromCp1252(p.value),
+            const bool ours = WritePrivateProfileString(ourPrefix(), fromCp1252(p.section), fromCp1252(p.key), fromCp1252(p.value),
                                                         onZ(ourFiles[c.file]));
             const QByteArray theirs = answer < wine.size() ? wine[answer] : "none";
             ++answer;
