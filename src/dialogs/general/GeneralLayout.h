@@ -1,6 +1,6 @@
 #pragma once
-// The controls of CGeneralForm at their design state: one table per tab and
-// one for the buttons below the tabs, walked by one builder; and the tab
+// The controls of CGeneralForm at their design state: one table, tab by tab
+// and then the buttons below the tabs, walked by one builder; and the tab
 // order over all of them.
 
 #include <QAnyStringView>
@@ -29,10 +29,14 @@ enum class ControlKind {
 
 enum class DesignState { Plain, Selected, Disabled };
 
+// The tab of the buttons below the tabs, which stand on the form itself.
+inline constexpr int kOnForm = -1;
+
 struct ControlRow {
+    int tab;             // the tab that holds it, or kOnForm
     const char* name;
     ControlKind kind;
-    const char* parent;  // a frame of the same table; "" for the tab (or the form)
+    const char* parent;  // a frame of the same tab; "" for the tab (or the form)
     const char* caption; // caption or text at design time, UTF-8
     const char* key;     // the variable of GeneralVariables shown; "" for none
     int left, top, width, height; // twips inside the parent
