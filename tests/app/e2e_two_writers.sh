@@ -31,7 +31,8 @@ expect_value() {
 }
 expect_nothing_left() {
   local left
-  left=$(ls -A "$folder" | grep -v -x -e Brimo.ini -e Brimo_Gene.lsp || true)
+  left=$(ls -A "$folder" | grep -v -x -e Brimo.ini -e Brimo_Gene.lsp -e Brimo.history || true)
+  left+=$(ls -A "$folder/Brimo.history" 2>/dev/null | grep -v -x '[0-9]\{6\}' || true) # numbered entries only
   [ -z "$left" ] || fail "left beside the files: $left"
 }
 now_ms() { date +%s%3N; }
