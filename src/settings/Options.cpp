@@ -34,7 +34,7 @@ struct Parser {
     QCommandLineOption dialog{QStringLiteral("dialog"),
                               QStringLiteral("The dialog whose keys get and set use: general (default) or slope."),
                               QStringLiteral("general|slope")};
-    QCommandLineOption json{QStringLiteral("json"), QStringLiteral("get, set, apply, history: print JSON.")};
+    QCommandLineOption json{QStringLiteral("json"), QStringLiteral("get, set, apply, restore, history: print one JSON document.")};
     QCommandLineOption origin{QStringLiteral("origin"),
                               QStringLiteral("get: put \"stored\" or \"default\" and a tab in front.")};
     QCommandLineOption check{QStringLiteral("check"),
