@@ -25,7 +25,7 @@ QString lockBeside(const QString& nativeIni) {
 // Records the files as they stand in the history, then writes them all
 // together; a write that fails takes its entry back. Gives the native path
 // of a file that could not be written.
-CommitOutcome writeWithHistory(const QString& iniPath, const QString& nativeIni, const QList<FileToWrite>& planned,
+CommitOutcome writeWithHistory(const QString& nativeIni, const QList<FileToWrite>& planned,
                                const QString& what, const QByteArray& iniBefore, const QByteArray& iniAfter) {
     HistoryEntry entry{0, QDateTime::currentDateTimeUtc(), CommitProgramName(), what,
                        ChangedKeys(iniBefore, iniAfter), {}};
@@ -115,7 +115,7 @@ CommitOutcome CommitPlan::write() const {
     if (!readFailure_.ok) return readFailure_;
     QList<FileToWrite> planned;
     for (const File& file : files()) planned.append(file.planned);
-    CommitOutcome outcome = writeWithHistory(iniPath_, nativeIni_, planned, what_, iniAsRead_, ini_.bytes());
+    CommitOutcome outcome = writeWithHistory(nativeIni_, planned, what_, iniAsRead_, ini_.bytes());
     for (const File& file : files())
         if (!outcome.ok && file.planned.nativePath == outcome.file) outcome.file = file.windowsPath;
     return outcome;
@@ -150,7 +150,7 @@ CommitOutcome RestoreHistoryEntry(const UserFolderLock& lock, int number, Histor
         if (folder + file.name == nativeIni) iniAfter = *file.bytes;
     }
     if (iniAfter.isNull()) iniAfter = ReadWholeFile(nativeIni).value_or(QByteArray());
-    CommitOutcome outcome = writeWithHistory(lock.iniPath(), nativeIni, planned,
+    CommitOutcome outcome = writeWithHistory(nativeIni, planned,
                                              QStringLiteral("restore %1").arg(entry->number),
                                              ReadWholeFile(nativeIni).value_or(QByteArray()), iniAfter);
     if (!outcome.ok && outcome.file == nativeIni) outcome.file = lock.iniPath();
