@@ -134,8 +134,10 @@ bool StageHistoryEntry(const QString& nativeIni, const HistoryEntry& entry, QStr
         return false;
     }
     bool written = WriteWholeFile(partial + QLatin1Char('/') + kEntryFile, entryJson(entry), error);
+    const QString folder = QFileInfo(nativeIni).absolutePath() + QLatin1Char('/');
     for (const KeptFile& file : entry.files)
-        if (written && file.bytes) written = WriteWholeFile(partial + QLatin1Char('/') + file.name, *file.bytes, error);
+        if (written && file.bytes)
+            written = KeepFileAs(folder + file.name, *file.bytes, partial + QLatin1Char('/') + file.name, error);
     const QString staged = history + QLatin1Char('/') + kStaged;
     if (written && (!SyncFolder(partial) || !renameFolder(partial, staged, error))) written = false;
     if (!written) {

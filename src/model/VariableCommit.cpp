@@ -26,9 +26,8 @@ QString lockBeside(const QString& nativeIni) {
 // together; a write that fails takes its entry back. Gives the native path
 // of a file that could not be written.
 CommitOutcome writeWithHistory(const QString& nativeIni, const QList<FileToWrite>& planned,
-                               const QString& what, const QByteArray& iniBefore, const QByteArray& iniAfter) {
-    HistoryEntry entry{0, QDateTime::currentDateTimeUtc(), CommitProgramName(), what,
-                       ChangedKeys(iniBefore, iniAfter), {}};
+                               const QString& what, const QStringList& changedKeys) {
+    HistoryEntry entry{0, QDateTime::currentDateTimeUtc(), CommitProgramName(), what, changedKeys, {}};
     bool changes = false;
     for (const FileToWrite& file : planned) {
         const std::optional<QByteArray> before = ReadWholeFile(file.nativePath);
@@ -78,18 +77,18 @@ CommitPlan::CommitPlan(const UserFolderLock& lock)
     QString error;
     auto bytes = ReadWholeFile(nativeIni_, &error);
     if (!bytes) readFailure_ = {false, iniPath_, error};
-    else {
-        iniAsRead_ = *bytes;
-        ini_ = ProfileDocument(std::move(*bytes));
-    }
+    else ini_ = ProfileDocument(std::move(*bytes));
 }
 
 void CommitPlan::add(const QString& lispPath, const QString& section, const QList<CommittedRow>& rows) {
     QStringList lines;
     QList<ProfileDocument::KeyValue> keys;
+    const QByteArray name = toCp1252(section);
     for (const CommittedRow& row : rows) {
         lines.append(row.line);
         keys.append({toCp1252(row.key), toCp1252(row.value)});
+        const QByteArray before = ini_.getString(name, keys.last().first, 1 << 20);
+        if (before != keys.last().second) (before.isEmpty() ? addedKeys_ : changedKeys_).append(section + QLatin1Char('/') + row.key);
     }
     lispFiles_.append({lispPath, {ToNativePath(prefix_, lispPath), ComposeLispFile(lines)}});
     ini_.setStrings(toCp1252(section), keys);
@@ -115,7 +114,7 @@ CommitOutcome CommitPlan::write() const {
     if (!readFailure_.ok) return readFailure_;
     QList<FileToWrite> planned;
     for (const File& file : files()) planned.append(file.planned);
-    CommitOutcome outcome = writeWithHistory(nativeIni_, planned, what_, iniAsRead_, ini_.bytes());
+    CommitOutcome outcome = writeWithHistory(nativeIni_, planned, what_, changedKeys_ + addedKeys_);
     for (const File& file : files())
         if (!outcome.ok && file.planned.nativePath == outcome.file) outcome.file = file.windowsPath;
     return outcome;
@@ -152,7 +151,7 @@ CommitOutcome RestoreHistoryEntry(const UserFolderLock& lock, int number, Histor
     if (iniAfter.isNull()) iniAfter = ReadWholeFile(nativeIni).value_or(QByteArray());
     CommitOutcome outcome = writeWithHistory(nativeIni, planned,
                                              QStringLiteral("restore %1").arg(entry->number),
-                                             ReadWholeFile(nativeIni).value_or(QByteArray()), iniAfter);
+                                             ChangedKeys(ReadWholeFile(nativeIni).value_or(QByteArray()), iniAfter));
     if (!outcome.ok && outcome.file == nativeIni) outcome.file = lock.iniPath();
     return outcome;
 }

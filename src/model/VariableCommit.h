@@ -95,7 +95,9 @@ private:
     WinePrefix prefix_;
     QString iniPath_, nativeIni_, what_ = QStringLiteral("OK");
     CommitOutcome readFailure_;
-    QByteArray iniAsRead_;
+    // "section/key" of the stored values that change, then of the keys that
+    // the commit adds, for the history.
+    QStringList changedKeys_, addedKeys_;
     ProfileDocument ini_;
     QList<File> lispFiles_;
 };

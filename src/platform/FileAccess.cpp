@@ -246,6 +246,12 @@ bool WriteFilesTogether(const QList<FileToWrite>& files, const QString& journalP
     return true;
 }
 
+bool KeepFileAs(const QString& source, const QByteArray& bytes, const QString& copy, QString* error) {
+    const std::optional<QString> target = FollowLinks(source);
+    if (target && ::link(QFile::encodeName(*target).constData(), QFile::encodeName(copy).constData()) == 0) return true;
+    return WriteWholeFile(copy, bytes, error);
+}
+
 bool WriteWholeFile(const QString& nativePath, const QByteArray& bytes, QString* error) {
     if (!folderAndFileWritable(nativePath, error)) return false;
     QSaveFile save(nativePath);

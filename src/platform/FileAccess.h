@@ -32,6 +32,12 @@ bool WriteWholeFile(const QString& nativePath, const QByteArray& bytes, QString*
 // nowhere gives the file it would create. Nothing, with `error`, for a loop.
 std::optional<QString> FollowLinks(const QString& nativePath, QString* error = nullptr);
 
+// Keeps `bytes`, the content of the file `source` as it stands, under the
+// new name `copy`: a hard link where the file system allows one (nothing is
+// copied; a commit replaces a file by a new one and never rewrites the old
+// one), else the bytes written. False, with `error`, when neither works.
+bool KeepFileAs(const QString& source, const QByteArray& bytes, const QString& copy, QString* error = nullptr);
+
 // Flushes the entries of a folder (the names created, moved or removed in it)
 // to the disk, so that a move survives a power loss.
 bool SyncFolder(const QString& nativeFolder);
