@@ -10,12 +10,14 @@ tests/platform/wine/:
   write-files.tsv      file, bytes after the writes
   write-reads.tsv      reads of the files after the writes, as reads.tsv
   number-texts.tsv     text, "double single" under en_US, the same under de_DE
+                       (numbers in std::to_chars's shortest form)
   number-to-text.tsv   number, its text under en_US, under de_DE
 Fields are escaped as in OracleFields.h. known-differences.tsv is kept by
 hand: after a new recording, review `git diff` and that file's Wine column.
 
 Usage: tools/wine-oracle/record.py   (needs wine64 and x86_64-w64-mingw32-g++)
 """
+import decimal
 import os
 import shutil
 import struct
@@ -200,6 +202,24 @@ def shortest(value, fmt):
     raise ValueError(value)
 
 
+def plain(text, value):
+    """A number in std::to_chars's shortest form: the fixed or the scientific
+    notation of the shortest digits, whichever is shorter (fixed on a tie)."""
+    sign, digits, exp = decimal.Decimal(text).normalize().as_tuple()
+    digits, sign = ''.join(map(str, digits)), '-' if sign else ''
+    if digits == '0':
+        return sign + '0'
+    e = exp + len(digits) - 1
+    scientific = digits[0] + ('.' + digits[1:] if digits[1:] else '') + 'e%s%02d' % ('+' if e >= 0 else '-', abs(e))
+    if exp >= 0:
+        fixed = str(abs(int(value)))  # all the digits of a whole number
+    elif -exp < len(digits):
+        fixed = digits[:exp] + '.' + digits[exp:]
+    else:
+        fixed = '0.' + '0' * (-exp - len(digits)) + digits
+    return sign + (fixed if len(fixed) <= len(scientific) else scientific)
+
+
 def conversion(hr, bits, fmt):
     if hr == '80020005':
         return 'mismatch'
@@ -207,7 +227,8 @@ def conversion(hr, bits, fmt):
         return 'overflow'
     if hr != '00000000':
         return 'error-' + hr
-    return shortest(struct.unpack(fmt, bytes.fromhex(bits.rjust(struct.calcsize(fmt) * 2, '0')))[0], '<' + fmt[1])
+    value = struct.unpack(fmt, bytes.fromhex(bits.rjust(struct.calcsize(fmt) * 2, '0')))[0]
+    return plain(shortest(value, '<' + fmt[1]), value)
 
 
 def number_texts():
