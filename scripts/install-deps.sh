@@ -8,7 +8,7 @@ packages=(
   qt6-base-dev libgl-dev
   libgtest-dev libgmock-dev libbenchmark-dev
   xvfb xauth xdotool x11-utils imagemagick fonts-dejavu-core fonts-liberation
-  wine64 g++-mingw-w64-x86-64 python3
+  python3
   lintian appstream desktop-file-utils bash-completion
 )
 

@@ -1,6 +1,6 @@
 // Writes to profile files, byte for byte: a write changes the line of its key
-// or adds one, and keeps every other byte. tests/platform/wine compares the
-// reads with Wine on a corpus of files, and the writes by content.
+// or adds one, and keeps every other byte. tests/platform/wine replays Wine's
+// recorded answers to reads on a corpus of files and to writes.
 
 #include "platform/ProfileDocument.h"
 
