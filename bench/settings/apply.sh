@@ -27,7 +27,8 @@ make_prefix() { # DIR USER
 # The office's standard, made by the tool from one user.
 make_prefix "$work/office" jo
 "$tool" set --prefix "$work/office" x_nom_bureau="Bureau Nord" x_ht_gc1=2.5 Path_Win5='D:\Outils\plan.exe' >/dev/null || true
-"$tool" set --prefix "$work/office" --dialog slope x_QZ_des_tal=3 >/dev/null || true
+# The slope dialog opens with its own values, which are what an export carries.
+"$tool" set --prefix "$work/office" --dialog slope x_QZ_des_tal=2 >/dev/null || true
 "$tool" export "$work/office.ini" --prefix "$work/office" || true
 office=$work/office/drive_c/Zorel/Var/jo
 
