@@ -17,24 +17,8 @@ if [ -z "${BRIMO_A11Y_SESSION:-}" ]; then
   BRIMO_A11Y_SESSION=1 exec dbus-run-session -- "$0" "$build" "$@"
 fi
 
-work=$(mktemp -d)
-cleanup() {
-  [ -n "${app:-}" ] && kill "$app" 2>/dev/null || true
-  [ -n "${xvfb:-}" ] && kill "$xvfb" 2>/dev/null || true
-  rm -rf "$work"
-}
-trap cleanup EXIT
-
-for n in $(seq 200 249); do
-  [ -e /tmp/.X$n-lock ] && continue
-  Xvfb ":$n" -screen 0 1280x1024x24 -nolisten tcp >/dev/null 2>&1 &
-  xvfb=$!
-  export DISPLAY=":$n"
-  for _ in $(seq 1 50); do xwininfo -root >/dev/null 2>&1 && break; sleep 0.1; done
-  xwininfo -root >/dev/null 2>&1 && break
-done
-unset QT_QPA_PLATFORM
-export LC_ALL=C.UTF-8 QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1 QT_ACCESSIBILITY=1
+source "$root/scripts/private-display.sh" 200
+export QT_LINUX_ACCESSIBILITY_ALWAYS_ON=1 QT_ACCESSIBILITY=1
 # The registry must run before the program starts, or the program finds no
 # one to announce itself to.
 /usr/bin/python3 -c 'import pyatspi; pyatspi.Registry.getDesktop(0).childCount' 2>/dev/null

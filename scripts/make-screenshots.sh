@@ -13,25 +13,7 @@ cmake -S . -B build >/dev/null
 cmake --build build -j"$(nproc)" --target Brimo2010 >/dev/null
 bin=$root/build/src/app/Brimo2010
 
-work=$(mktemp -d)
-display=
-cleanup() {
-  [ -n "${app:-}" ] && kill "$app" 2>/dev/null || true
-  [ -n "${xvfb:-}" ] && kill "$xvfb" 2>/dev/null || true
-  rm -rf "$work"
-}
-trap cleanup EXIT
-
-for n in $(seq 150 199); do
-  [ -e /tmp/.X$n-lock ] && continue
-  Xvfb ":$n" -screen 0 1280x1024x24 -nolisten tcp >/dev/null 2>&1 &
-  xvfb=$!
-  export DISPLAY=":$n"
-  for _ in $(seq 1 50); do xwininfo -root >/dev/null 2>&1 && break; sleep 0.1; done
-  xwininfo -root >/dev/null 2>&1 && break
-done
-unset QT_QPA_PLATFORM
-export LC_ALL=C.UTF-8
+source "$root/scripts/private-display.sh" 150
 
 # prefix LANGUAGE: a demo installation whose Brimo.ini holds that language.
 prefix() {
