@@ -9,6 +9,9 @@ the share that was caught.
 
 The mutation points are a fixed list (scripts/mutation-points.txt), drawn
 once with a fixed seed from every folder of src/, so that two runs compare.
+Code written after that list was drawn has a list of its own
+(scripts/mutation-points-added.txt), drawn the same way over the lines added
+since a revision; it runs after the first and is counted apart.
 Each point names its file, its operator and the exact text of its line, so it
 is found again when lines move; a point whose line is gone is reported.
 
@@ -16,6 +19,7 @@ is found again when lines move; a point whose line is gone is reported.
     scripts/mutants.py --sample 20     # the first 20 points (a quick look)
     scripts/mutants.py --points 3,17   # points 3 and 17 of the list
     scripts/mutants.py --draw 150      # draw a new list of 150 points
+    scripts/mutants.py --draw 30 --since REV  # the list of the lines added since REV
     scripts/mutants.py --revision REV  # the suite and code of an earlier revision
 
 Only the tests that run a point's line are run for it: a first build with
@@ -39,6 +43,7 @@ import time
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 POINTS = ROOT / "scripts" / "mutation-points.txt"
+ADDED_POINTS = ROOT / "scripts" / "mutation-points-added.txt"
 SEED = 2010
 
 # Each operator: a pattern on one line and what the match becomes.
@@ -71,15 +76,30 @@ def source_files(tree):
     return sorted(p for p in (tree / "src").rglob("*") if p.suffix in (".cpp", ".h"))
 
 
-def candidates(tree):
-    """Every place where an operator applies, in a fixed order."""
+def added_lines(tree, since):
+    """(file, line number) of every line of src/ added or changed since the revision."""
+    diff = subprocess.run(["git", "diff", "-U0", since, "--", "src"], cwd=tree, check=True,
+                          capture_output=True, text=True).stdout
+    added, rel = set(), None
+    for row in diff.splitlines():
+        if row.startswith("+++ "):
+            rel = row[6:] if row.startswith("+++ b/") else None
+        elif row.startswith("@@") and rel:
+            start, _, count = re.search(r"\+(\d+)(,(\d+))?", row).groups()
+            first = int(start)
+            added.update((rel, n) for n in range(first, first + (int(count) if count is not None else 1)))
+    return added
+
+
+def candidates(tree, only=None):
+    """Every place where an operator applies, in a fixed order; within `only` (file, line number) if given."""
     found = []
     for path in source_files(tree):
         rel = path.relative_to(tree).as_posix()
         seen = collections.Counter()
-        for line in path.read_text(encoding="utf-8").splitlines():
+        for number, line in enumerate(path.read_text(encoding="utf-8").splitlines(), 1):
             seen[line] += 1
-            if SKIP_LINE.match(line) or not line.strip():
+            if SKIP_LINE.match(line) or not line.strip() or (only is not None and (rel, number) not in only):
                 continue
             code = line.split("//")[0]
             for name, (pattern, _) in OPERATORS.items():
@@ -92,16 +112,18 @@ def candidates(tree):
 DATA_OPERATORS = {"plus-one", "text-changed"}
 
 
-def draw(tree, count):
+def draw(tree, count, only=None):
     """`count` points spread over every folder of src/ by its lines of code, at
     least four a folder, half in the logic and half in the data where both exist."""
     rng = random.Random(SEED)
     by_folder = collections.defaultdict(lambda: ([], []))
-    for point in candidates(tree):
+    for point in candidates(tree, only):
         by_folder[folder_of(point[0])][point[1] in DATA_OPERATORS].append(point)
     size = collections.Counter()
     for path in source_files(tree):
-        size[folder_of(path.relative_to(tree).as_posix())] += sum(1 for l in path.open(encoding="utf-8") if l.strip())
+        rel = path.relative_to(tree).as_posix()
+        size[folder_of(rel)] += sum(1 for n, l in enumerate(path.open(encoding="utf-8"), 1)
+                                    if l.strip() and (only is None or (rel, n) in only))
     total = sum(size[name] for name in by_folder)
     chosen = []
     for name in sorted(by_folder):
@@ -113,17 +135,20 @@ def draw(tree, count):
     return chosen[:count]
 
 
-def write_points(points):
-    with POINTS.open("w", encoding="utf-8") as out:
-        out.write(f"# Mutation points drawn with seed {SEED}: file, operator, occurrence of the line, "
+def write_points(points, path, since=None):
+    with path.open("w", encoding="utf-8") as out:
+        scope = f" over the lines added since {since}" if since else ""
+        out.write(f"# Mutation points drawn with seed {SEED}{scope}: file, operator, occurrence of the line, "
                   "match on the line, the line.\n")
         for rel, name, occurrence, nth, line in points:
             out.write(f"{rel}\t{name}\t{occurrence}\t{nth}\t{line}\n")
 
 
-def read_points():
+def read_points(path):
     points = []
-    for row in POINTS.read_text(encoding="utf-8").splitlines():
+    if not path.exists():
+        return points
+    for row in path.read_text(encoding="utf-8").splitlines():
         if row.startswith("#"):
             continue
         rel, name, occurrence, nth, line = row.split("\t", 4)
@@ -281,51 +306,68 @@ class Suite:
             path.write_text(original, encoding="utf-8")
 
 
-def main():
-    parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
-    parser.add_argument("--draw", type=int, metavar="N", help="draw a new list of N points and stop")
-    parser.add_argument("--sample", type=int, metavar="N", help="run only the first N points of the list")
-    parser.add_argument("--points", metavar="N,M,...", help="run only these points of the list (from 1)")
-    parser.add_argument("--scratch", default="/tmp/brimo-mutants", help="where the copies are built")
-    parser.add_argument("--limit", type=int, default=300, help="seconds for one build or one test stage")
-    parser.add_argument("--revision", metavar="REV", help="the suite and code of REV instead of the working tree")
-    args = parser.parse_args()
-
-    if args.draw:
-        write_points(draw(ROOT, args.draw))
-        print(f"{args.draw} points written to {POINTS.relative_to(ROOT)}")
-        return 0
-
-    chosen = {int(n) for n in args.points.split(",")} if args.points else None
-    points = [(n, p) for n, p in enumerate(read_points()[: args.sample], 1) if not chosen or n in chosen]
-    started = time.time()
-    suite = Suite(pathlib.Path(args.scratch) / (args.revision or "working-tree"), args.revision)
-    print(f"built, with coverage of {len(suite.tests)} tests, in {time.time() - started:.0f} s", flush=True)
-    result, catchers = collections.defaultdict(list), collections.defaultdict(list)
-    for number, (rel, name, occurrence, nth, line) in points:
-        label = f"{rel}: {name}: {line.strip()}"
-        verdict = suite.try_point(rel, name, occurrence, nth, line, args.limit)
-        if isinstance(verdict, tuple):
-            verdict, failed = verdict
-            for test in failed:
-                catchers[test].append(len(failed) == 1)
-            label += f"  <- {', '.join(failed)}"
-        result[verdict].append(label)
-        print(f"[{number} {time.time() - started:5.0f}s] {verdict}: {label}", flush=True)
-
-    print("\n== tests that caught faults: how many, and how many no other fast test caught")
-    for test in sorted(suite.tests, key=lambda t: (-sum(catchers[t]), -len(catchers[t]), t)):
-        print(f"  {len(catchers[test]):3} {sum(catchers[test]):3}  {test}")
-    print("\n== faults that no test caught")
+def summary(title, result):
+    print(f"\n== {title}: faults that no test caught")
     for label in result["SURVIVED"]:
         print(f"  {label}")
     for label in result["gone"]:
         print(f"  (line gone) {label}")
     tried = len(result["caught"]) + len(result["SURVIVED"])
     share = 100.0 * len(result["caught"]) / tried if tried else 0.0
-    print(f"{len(result['caught'])} of {tried} faults caught ({share:.1f}%); "
-          f"{len(result['does not build'])} did not build; {len(result['gone'])} gone; "
-          f"{time.time() - started:.0f} s")
+    print(f"{title}: {len(result['caught'])} of {tried} faults caught ({share:.1f}%); "
+          f"{len(result['does not build'])} did not build; {len(result['gone'])} gone")
+
+
+def main():
+    parser = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
+    parser.add_argument("--draw", type=int, metavar="N", help="draw a new list of N points and stop")
+    parser.add_argument("--since", metavar="REV", help="with --draw: the list of the lines added since REV")
+    parser.add_argument("--sample", type=int, metavar="N", help="run only the first N points of the list")
+    parser.add_argument("--points", metavar="N,M,...", help="run only these points of the lists (from 1)")
+    parser.add_argument("--scratch", default="/tmp/brimo-mutants", help="where the copies are built")
+    parser.add_argument("--limit", type=int, default=300, help="seconds for one build or one test stage")
+    parser.add_argument("--revision", metavar="REV", help="the suite and code of REV instead of the working tree")
+    args = parser.parse_args()
+
+    if args.draw:
+        path = ADDED_POINTS if args.since else POINTS
+        write_points(draw(ROOT, args.draw, added_lines(ROOT, args.since) if args.since else None), path, args.since)
+        print(f"{args.draw} points written to {path.relative_to(ROOT)}")
+        return 0
+
+    chosen = {int(n) for n in args.points.split(",")} if args.points else None
+    lists = [("the fixed list", read_points(POINTS)[: args.sample])]
+    if not args.sample:
+        lists.append(("the added lines' list", read_points(ADDED_POINTS)))
+    started = time.time()
+    suite = Suite(pathlib.Path(args.scratch) / (args.revision or "working-tree"), args.revision)
+    print(f"built, with coverage of {len(suite.tests)} tests, in {time.time() - started:.0f} s", flush=True)
+    catchers = collections.defaultdict(list)
+    results, number = [], 0
+    for title, points in lists:
+        result = collections.defaultdict(list)
+        for rel, name, occurrence, nth, line in points:
+            number += 1
+            if chosen and number not in chosen:
+                continue
+            label = f"{rel}: {name}: {line.strip()}"
+            verdict = suite.try_point(rel, name, occurrence, nth, line, args.limit)
+            if isinstance(verdict, tuple):
+                verdict, failed = verdict
+                for test in failed:
+                    catchers[test].append(len(failed) == 1)
+                label += f"  <- {', '.join(failed)}"
+            result[verdict].append(label)
+            print(f"[{number} {time.time() - started:5.0f}s] {verdict}: {label}", flush=True)
+        results.append((title, result))
+
+    print("\n== tests that caught faults: how many, and how many no other fast test caught")
+    for test in sorted(suite.tests, key=lambda t: (-sum(catchers[t]), -len(catchers[t]), t)):
+        print(f"  {len(catchers[test]):3} {sum(catchers[test]):3}  {test}")
+    for title, result in results:
+        if result:
+            summary(title, result)
+    print(f"{time.time() - started:.0f} s")
     return 0
 
 
