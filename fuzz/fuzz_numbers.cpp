@@ -3,45 +3,36 @@
 // number, a refusal or an overflow; a number read is finite and fits its
 // type; a number written in the regional form reads back to 15 digits.
 
-#include "Check.h"
+#include "Fuzz.h"
 #include "platform/RegionalNumbers.h"
 
 #include <cmath>
 #include <cstring>
 
-namespace {
-
-void checkRoundTrip(double number) {
+static void checkRoundTrip(double number) {
     const QString text = brimo::NumberToText(number);
     FUZZ_CHECK(!text.isEmpty());
     const double magnitude = std::fabs(number);
     // Beyond this range the text keeps a point whatever the locale.
     if (number != 0 && (magnitude < 1e-4 || magnitude >= 1e15)) return;
     const brimo::Conversion back = brimo::TextToDouble(text);
-    FUZZ_CHECK(back.ok());
-    FUZZ_CHECK(std::fabs(back.value - number) <= magnitude * 1e-14);
+    FUZZ_CHECK(back.ok() && std::fabs(back.value - number) <= magnitude * 1e-14);
 }
 
-} // namespace
-
-extern "C" int LLVMFuzzerTestOneInput(const uint8_t* data, size_t size) {
-    const QString text = QString::fromUtf8(reinterpret_cast<const char*>(data), static_cast<qsizetype>(size));
-    const brimo::Conversion asDouble = brimo::TextToDouble(text);
-    FUZZ_CHECK(asDouble.error == 0 || asDouble.error == brimo::TypeMismatch || asDouble.error == brimo::Overflow);
-    if (asDouble.ok()) {
-        FUZZ_CHECK(std::isfinite(asDouble.value));
-        checkRoundTrip(asDouble.value);
-    }
-    const brimo::Conversion asSingle = brimo::TextToSingle(text);
-    FUZZ_CHECK(asSingle.error == 0 || asSingle.error == brimo::TypeMismatch || asSingle.error == brimo::Overflow);
+static void fuzzOne(QByteArrayView data) {
+    const QString text = QString::fromUtf8(data);
+    const brimo::Conversion asDouble = brimo::TextToDouble(text), asSingle = brimo::TextToSingle(text);
+    for (const brimo::Conversion& c : {asDouble, asSingle})
+        FUZZ_CHECK(c.error == 0 || c.error == brimo::TypeMismatch || c.error == brimo::Overflow);
+    if (asDouble.ok()) FUZZ_CHECK(std::isfinite(asDouble.value));
+    if (asDouble.ok()) checkRoundTrip(asDouble.value);
     if (asSingle.ok()) FUZZ_CHECK(std::isfinite(static_cast<float>(asSingle.value)));
     // A refusal does not depend on the type: a text is a number for both or neither.
     FUZZ_CHECK((asDouble.error == brimo::TypeMismatch) == (asSingle.error == brimo::TypeMismatch));
 
-    if (size >= sizeof(double)) {
+    if (data.size() >= qsizetype(sizeof(double))) {
         double number;
-        std::memcpy(&number, data, sizeof number);
+        std::memcpy(&number, data.data(), sizeof number);
         if (std::isfinite(number)) checkRoundTrip(number);
     }
-    return 0;
 }

@@ -1,7 +1,6 @@
+#include "Tsv.h"
 #include "model/InstallInfo.h"
 #include "support/ScratchPrefix.h"
-
-#include <gtest/gtest.h>
 
 namespace brimo {
 namespace {
@@ -27,32 +26,16 @@ TEST(InstallInfo, ReadsSixValuesAndHoldsDefaultAsTheEmptyUser) {
 }
 
 TEST(InstallInfo, PathsAreJoinedWithoutTouchingSeparators) {
-    struct Case {
-        const char* variables;
-        const char* actuel;
-        const char* ini;
-        const char* gene;
-        const char* talus;
-    };
-    const Case cases[] = {
-        {"C:\\Zorel\\Var", "Bureau1", "C:\\Zorel\\Var\\Bureau1\\Brimo.ini", "C:\\Zorel\\Var\\Bureau1\\Brimo_Gene.lsp",
-         "C:\\Zorel\\Var\\Bureau1\\Brimo_Talus.lsp"},
-        {"C:\\Zorel\\Var", "", "C:\\Zorel\\Var\\\\Brimo.ini", "C:\\Zorel\\Var\\\\Brimo_Gene.lsp",
-         "C:\\Zorel\\Var\\\\Brimo_Talus.lsp"},
-        {"C:\\Zorel\\Var\\", "B", "C:\\Zorel\\Var\\\\B\\Brimo.ini", "C:\\Zorel\\Var\\\\B\\Brimo_Gene.lsp",
-         "C:\\Zorel\\Var\\\\B\\Brimo_Talus.lsp"},
-        {"", "", "\\\\Brimo.ini", "\\\\Brimo_Gene.lsp", "\\\\Brimo_Talus.lsp"},
-    };
-    for (const Case& c : cases) {
+    for (const QList<QByteArray>& row : test::TsvRows("user-folders.tsv")) {
         InstallInfo info;
-        info.Variables = QString::fromUtf8(c.variables);
-        info.actuel = QString::fromUtf8(c.actuel);
-        EXPECT_EQ(BrimoIniPath(info), QString::fromUtf8(c.ini));
-        EXPECT_EQ(GeneLispPath(info), QString::fromUtf8(c.gene));
-        EXPECT_EQ(TalusLispPath(info), QString::fromUtf8(c.talus));
+        info.Variables = QString::fromUtf8(row[0]);
+        info.actuel = QString::fromUtf8(row[1]);
+        const QString folder = QString::fromUtf8(row[2]);
+        EXPECT_EQ(BrimoIniPath(info), folder + QStringLiteral("Brimo.ini"));
+        EXPECT_EQ(GeneLispPath(info), folder + QStringLiteral("Brimo_Gene.lsp"));
+        EXPECT_EQ(TalusLispPath(info), folder + QStringLiteral("Brimo_Talus.lsp"));
     }
-    InstallInfo noZorel;
-    EXPECT_EQ(LegendFolder(noZorel), QStringLiteral("\\Lang\\"));
+    EXPECT_EQ(LegendFolder(InstallInfo()), QStringLiteral("\\Lang\\"));
 }
 
 TEST(InstallInfo, OnlyTheExactWordDefaultIsTheEmptyUser) {
