@@ -1,5 +1,5 @@
-// CGeneralForm driven as a user drives it: what OK writes from stored values
-// and edits, what it refuses, the words of every language, and the buttons.
+// CGeneralForm driven as a user drives it (what OK writes is in
+// CommitCasesTest): what it refuses, the words of every language, and the buttons.
 // Its layout and captions at load are pinned by the form snapshots.
 #include "GeneralFormFixture.h"
 
@@ -23,85 +23,7 @@
 namespace brimo::test {
 namespace {
 
-const QString kDefaultLisp = QStringLiteral("Brimo_Gene-defaults.lsp");
-using Edits = QList<std::pair<QByteArray, QByteArray>>;
-using Texts = QList<std::pair<const char*, const char*>>;
-
-QByteArray crlf(const char* utf8) { return cp1252(utf8).replace("\n", "\r\n"); }
-
-struct Commit {
-    const char* name;
-    const char* stored; // Brimo.ini before, LF line ends; nullptr: no file
-    std::function<void(GeneralFormTest&)> edit;
-    Texts lispEdits;       // against the defaults' Lisp file (hand-composed)
-    Texts iniEdits;        // against the defaults' Brimo.ini (hand-composed)
-    const char* iniGolden; // or Brimo.ini after, as a golden file
-};
-
 using GeneralCommitTest = GeneralFormTest;
-
-TEST_F(GeneralCommitTest, OkWritesBothFilesFromWhatTheControlsHold) {
-    const Commit commits[] = {
-        {"defaults", nullptr, nullptr, {}, {}, nullptr},
-        {"Enter in a field commits its text untested", nullptr,
-         [](GeneralFormTest& t) {
-             auto* val0 = t.find<QLineEdit>("Val0");
-             t.find<QTabWidget>("SSTab1")->setCurrentIndex(0);
-             val0->setFocus();
-             QTest::keyClicks(val0, "abc");
-             QTest::keyClick(val0, Qt::Key_Return);
-         },
-         {{"(setq cadre_usery", "(setq cadre_usery abc) ;Largeur du cadre users"}}, {{"cadre_usery=", "cadre_usery=abc"}},
-         nullptr},
-        {"stored values outside the options, a grey check box, other keys and sections",
-         "[Brimo_Gene]\nx_def_ounit=5\nx_chttt=7\nx_lang=fra\naffilogoKVO=2\nx_chtxt=9\n[Brimo_Talus]\nx_QZ_tal_dh=4\n",
-         nullptr, {{"(setq x_def_ounit", ""}}, {}, "general-commit/unknown-choices.ini"},
-        {"stored choices come back, keys matched without regard to case",
-         "[Brimo_Gene]\nx_def_ounit=2\nx_def_punit=1\nx_chttt=1\nAffiProfil=0\nx_chtlay=1\nPath_Win5=C:\\Outils\\a.exe\n",
-         nullptr,
-         {{"(setq x_def_ounit", "(setq x_def_ounit 2) ;L'unité par défaut de l'espace objet est le m"},
-          {"(setq x_def_punit", "(setq x_def_punit 1) ;L'unité par défaut de l'espace papier est le cm"},
-          {"(setq x_chttt", "(setq x_chttt 1) ;Commande Autocad aprés choix du style - Texte sur une ligne"},
-          {"(setq affiprofil", "(setq affiprofil 0) ;Affichage du profil dessin - Inactif"},
-          {"(setq x_chtlay", "(setq x_chtlay 1) ;Layers à utiliser après l'appel de la commande - Layers courant"},
-          {"(setq path_win5", "(setq path_win5 \"C:\\\\Outils\\\\a.exe\") ;Emplacement d'un programme personnel"}},
-         {}, "general-commit/stored-choices.ini"},
-        {"a click on Check3 and on an option", nullptr,
-         [](GeneralFormTest& t) {
-             t.find<QCheckBox>("Check3")->click();
-             t.find<QRadioButton>("Option4(6)")->click();
-             t.find<QCheckBox>("Check2")->click();
-         },
-         {{"(setq x_chtlay", "(setq x_chtlay 1) ;Layers à utiliser après l'appel de la commande - Layers courant"},
-          {"(setq x_chttt", "(setq x_chttt 3) ;Commande Autocad aprés choix du style - Texte paragraphe"},
-          {"(setq affiprofil", "(setq affiprofil 0) ;Affichage du profil dessin - Inactif"}},
-         {{"x_chtlay=", "x_chtlay=1"}, {"x_chttt=", "x_chttt=3"}, {"affiprofil=", "affiprofil=0"}}, nullptr},
-    };
-    for (const Commit& c : commits) {
-        SCOPED_TRACE(c.name);
-        TearDown();
-        QDir(prefix.native(QStringLiteral("C:\\Zorel\\Var\\jo"))).removeRecursively();
-        prefix.makeFolder(QStringLiteral("C:\\Zorel\\Var\\jo"));
-        SetUp();
-        if (c.stored) writeBrimoIni(crlf(c.stored));
-        open();
-        if (c.edit) c.edit(*this);
-        if (ends().isEmpty()) find<QPushButton>("cmdOK")->click();
-        Edits lispEdits;
-        for (const auto& [head, line] : c.lispEdits) lispEdits.append({QByteArray(head), cp1252(line)});
-        EXPECT_EQ(lisp(), GoldenWith(kDefaultLisp, lispEdits));
-        // Keys already stored keep their place, with their spelling; the
-        // others follow in the order of the rows.
-        if (c.iniGolden) ExpectGolden(QString::fromLatin1(c.iniGolden), ini());
-        else {
-            Edits iniEdits;
-            for (const auto& [head, line] : c.iniEdits) iniEdits.append({QByteArray(head), QByteArray(line)});
-            EXPECT_EQ(ini(), GoldenWith(QStringLiteral("Brimo-defaults.ini"), iniEdits));
-        }
-        EXPECT_EQ(ends(), QList<int>{0});
-        EXPECT_TRUE(messages.isEmpty());
-    }
-}
 
 TEST_F(GeneralCommitTest, ADoubleQuoteInALispStringIsRefusedWithEveryEditKept) {
     open();
