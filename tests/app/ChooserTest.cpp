@@ -82,47 +82,27 @@ private slots:
         QVERIFY(!endStatus_);
     }
 
-    void buttonLeadsToItsForm_data() {
-        QTest::addColumn<QString>("button");
-        QTest::addColumn<bool>("aboutOpenBefore");
-        QTest::addColumn<QStringList>("windowsAfter");
-        QTest::addColumn<int>("endStatus"); // -1: no end
-        const struct {
-            const char* button;
-            QStringList opened;
-            bool chooserStays;
-            int endStatus;
-        } rows[] = {
-            {"CmdChoixPiedTalus", {"CParamRechTalus"}, false, -1},
-            {"CmdCadreLayers", {"CGeneralForm"}, false, -1},
-            {"CmdChoixGeneral", {"CVarGlobale"}, false, -1},
-            {"CmdChoixAbout", {"CAboutForm"}, true, -1},
-            {"CmdChoixQuitter", {}, true, 0},
-        };
-        for (const auto& row : rows) {
+    // Each button and what it opens or ends, with the about window open before or not.
+    void buttonLeadsToItsForm() {
+        const struct { const char* button; QStringList opened; bool chooserStays; int endStatus; } rows[] = {
+            {"CmdChoixPiedTalus", {"CParamRechTalus"}, false, -1}, {"CmdCadreLayers", {"CGeneralForm"}, false, -1},
+            {"CmdChoixGeneral", {"CVarGlobale"}, false, -1},       {"CmdChoixAbout", {"CAboutForm"}, true, -1},
+            {"CmdChoixQuitter", {}, true, 0}};
+        for (const auto& row : rows)
             for (bool aboutOpen : {false, true}) {
+                MainModule module;
+                recordEnd(module);
+                CChoixForm* chooser = module.Show<CChoixForm>();
+                if (aboutOpen) chooser->CmdChoixAbout_Click();
+                chooser->findChild<QPushButton*>(row.button)->click();
                 QStringList after = row.opened;
                 if (row.chooserStays) after.append("CChoixForm");
                 if (aboutOpen) after.append("CAboutForm");
                 after.removeDuplicates();
                 after.sort();
-                QTest::addRow("%s%s", row.button, aboutOpen ? ", about open" : "")
-                    << row.button << aboutOpen << after << row.endStatus;
+                QVERIFY2(openWindows() == after, qPrintable(QStringLiteral("%1 %2").arg(row.button).arg(aboutOpen)));
+                QVERIFY2(endStatus_.value_or(-1) == row.endStatus, row.button);
             }
-        }
-    }
-    void buttonLeadsToItsForm() {
-        QFETCH(QString, button);
-        QFETCH(bool, aboutOpenBefore);
-        QFETCH(QStringList, windowsAfter);
-        QFETCH(int, endStatus);
-        MainModule module;
-        recordEnd(module);
-        CChoixForm* chooser = module.Show<CChoixForm>();
-        if (aboutOpenBefore) chooser->CmdChoixAbout_Click();
-        chooser->findChild<QPushButton*>(button)->click();
-        QCOMPARE(openWindows(), windowsAfter);
-        QCOMPARE(endStatus_.value_or(-1), endStatus);
     }
 
     // One window per form: Show of an open form brings it forward without

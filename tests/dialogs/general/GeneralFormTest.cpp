@@ -18,7 +18,7 @@
 #include <QTest>
 #include <QTimer>
 
-#include <functional>
+#include <tuple>
 
 namespace brimo::test {
 namespace {
@@ -52,45 +52,30 @@ TEST_F(GeneralCommitTest, ADoubleQuoteInALispStringIsRefusedWithEveryEditKept) {
 // A commit that cannot write shows one message naming the file and why,
 // changes nothing and ends with status 1.
 TEST_F(GeneralCommitTest, ACommitThatCannotWriteReportsAndChangesNothing) {
-    const struct {
-        const char* name;
-        std::function<void(GeneralFormTest&)> spoil;
-        QString named;
-        std::function<QString(GeneralFormTest&)> reason;
-    } failures[] = {
-        {"folder missing", [](GeneralFormTest& t) { QDir(t.prefix.native("C:\\Zorel\\Var\\jo")).removeRecursively(); },
-         kLispPath,
-         [](GeneralFormTest& t) {
-             return "the folder " + t.prefix.root() + "/dosdevices/c:/Zorel/Var/jo does not exist";
-         }},
-        {"read-only Brimo.ini",
-         [](GeneralFormTest& t) {
-             QFile::setPermissions(t.prefix.native(kIniPath), QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther);
-         },
-         kIniPath, [](GeneralFormTest&) { return QStringLiteral("the file is read-only"); }},
-        {"a folder where Brimo_Gene.lsp should be",
-         [](GeneralFormTest& t) {
-             QFile::remove(t.prefix.native(kLispPath));
-             t.prefix.makeFolder(kLispPath);
-         },
-         kLispPath, [](GeneralFormTest&) { return QStringLiteral("a folder of that name stands in the way"); }},
+    enum Spoil { NoFolder, ReadOnlyIni, FolderForLisp };
+    const std::tuple<Spoil, QString, QString> failures[] = {
+        {NoFolder, kLispPath, "the folder $/dosdevices/c:/Zorel/Var/jo does not exist"},
+        {ReadOnlyIni, kIniPath, "the file is read-only"},
+        {FolderForLisp, kLispPath, "a folder of that name stands in the way"},
     };
-    for (const auto& failure : failures) {
-        SCOPED_TRACE(failure.name);
+    for (const auto& [spoil, named, reason] : failures) {
+        SCOPED_TRACE(reason.toStdString());
         TearDown();
         QDir(prefix.native(QStringLiteral("C:\\Zorel\\Var\\jo"))).removeRecursively();
         SetUp();
         writeBrimoIni("[Brimo_Gene]\r\nx_incli=3\r\n");
         prefix.write(kLispPath, "old");
         open();
-        failure.spoil(*this);
+        if (spoil == NoFolder) QDir(prefix.native("C:\\Zorel\\Var\\jo")).removeRecursively();
+        if (spoil == ReadOnlyIni) QFile::setPermissions(prefix.native(kIniPath), QFile::ReadOwner | QFile::ReadOther);
+        if (spoil == FolderForLisp) QFile::remove(prefix.native(kLispPath)), prefix.makeFolder(kLispPath);
         const QByteArray iniBefore = ini(), lispBefore = lisp();
         find<QPushButton>("cmdOK")->click();
         ASSERT_EQ(messages.size(), 1);
         EXPECT_EQ(messages[0].text.toStdString(), QStringLiteral("Le fichier %1 n'a pas pu être écrit : %2.\r\n"
                                                    "Aucun fichier n'a été modifié.\r\n\r\n"
                                                    "The file %1 could not be written: %2.\r\nNo file was changed.")
-                                        .arg(failure.named, failure.reason(*this)).toStdString());
+                                        .arg(named, QString(reason).replace(u'$', prefix.root())).toStdString());
         EXPECT_EQ(ends(), QList<int>{1});
         EXPECT_EQ(ini(), iniBefore);
         EXPECT_EQ(lisp(), lispBefore);
@@ -249,49 +234,38 @@ TEST_F(GeneralFormTest, EscapeCommand8AndAClickOnACheckBoxDoNoHarm) {
     EXPECT_FALSE(prefix.exists(kLispPath) || prefix.exists(kIniPath));
 }
 
-// Answers the next file dialog: notes what it shows, then picks `file` or cancels.
-struct FileDialogSeen {
-    QString title;
-    QStringList filters;
-    QStringList initial;
-};
-void answerNextFileDialog(FileDialogSeen& seen, const QString& file) {
-    QTimer::singleShot(0, [&seen, file] {
-        auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-        if (!dialog) return;
-        seen = {dialog->windowTitle(), dialog->nameFilters(), dialog->selectedFiles()};
-        if (file.isEmpty()) return dialog->reject();
-        dialog->selectFile(file);
-        static_cast<QDialog*>(dialog)->accept(); // as the Open button does
-    });
-}
-
+// A program button opens a file dialog titled by its legend, with the filter
+// of legend 173, on the field's file; the chosen file goes into the field, a
+// cancel changes nothing, a file outside the prefix keeps its native path.
 TEST_F(GeneralFormTest, AProgramButtonPutsTheChosenFileIntoItsField) {
     writeLegends("FRA", {{173, "Programmes (*.exe)|*.exe|Tous (*.*)|*.*"}});
     prefix.write("C:\\Outils\\calc.exe", "");
     writeBrimoIni("[Brimo_Gene]\r\nPath_Win2=C:\\Outils\\calc.exe\r\n");
     open();
-    FileDialogSeen seen;
-    answerNextFileDialog(seen, prefix.native("C:\\Outils\\neuf.exe"));
-    find<QPushButton>("Command5")->click();
-    EXPECT_EQ(seen.title, legend("FRA", 172));
-    EXPECT_EQ(seen.filters, QStringList({"Programmes (*.exe)", "Tous (*.*)"}));
-    EXPECT_EQ(find<QLineEdit>("Text15")->text(), "C:\\Outils\\neuf.exe");
-
-    // The dialog opens on the field's file; a cancel changes nothing.
-    answerNextFileDialog(seen, {});
-    find<QPushButton>("Command2")->click();
-    EXPECT_EQ(seen.title, legend("FRA", 169));
-    ASSERT_EQ(seen.initial.size(), 1);
-    EXPECT_EQ(QFileInfo(seen.initial[0]).canonicalFilePath(),
-              QFileInfo(prefix.native("C:\\Outils\\calc.exe")).canonicalFilePath());
-    EXPECT_EQ(find<QLineEdit>("Text12")->text(), "C:\\Outils\\calc.exe");
-
-    // A file outside the prefix keeps its native path.
-    answerNextFileDialog(seen, "/usr/bin/env");
-    find<QPushButton>("Command6")->click();
-    EXPECT_EQ(seen.title, legend("FRA", 174));
-    EXPECT_EQ(find<QLineEdit>("Text18")->text(), "/usr/bin/env");
+    const struct { const char* button; int title; const char* field; QString answer, after; bool opensOnField; } rows[] = {
+        {"Command5", 172, "Text15", prefix.native("C:\\Outils\\neuf.exe"), "C:\\Outils\\neuf.exe", false},
+        {"Command2", 169, "Text12", {}, "C:\\Outils\\calc.exe", true},
+        {"Command6", 174, "Text18", "/usr/bin/env", "/usr/bin/env", false},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.button);
+        QString title;
+        QStringList filters, initial;
+        QTimer::singleShot(0, [&] {
+            auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            if (!dialog) return;
+            title = dialog->windowTitle(), filters = dialog->nameFilters(), initial = dialog->selectedFiles();
+            if (row.answer.isEmpty()) return dialog->reject();
+            dialog->selectFile(row.answer);
+            static_cast<QDialog*>(dialog)->accept(); // as the Open button does
+        });
+        find<QPushButton>(row.button)->click();
+        EXPECT_EQ(title, legend("FRA", row.title));
+        EXPECT_EQ(filters, QStringList({"Programmes (*.exe)", "Tous (*.*)"}));
+        EXPECT_EQ(find<QLineEdit>(row.field)->text(), row.after);
+        if (row.opensOnField)
+            EXPECT_EQ(QFileInfo(initial.value(0)).canonicalFilePath(), QFileInfo(prefix.native(row.after)).canonicalFilePath());
+    }
 }
 
 } // namespace
