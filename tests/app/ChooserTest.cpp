@@ -28,8 +28,6 @@ QStringList openWindows() {
     return names;
 }
 
-QString focusName() { return QApplication::focusWidget() ? QApplication::focusWidget()->objectName() : QString(); }
-
 void flushClosedWindows() { QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); }
 
 } // namespace
@@ -45,114 +43,66 @@ class ChooserTest : public QObject {
     }
 
 private slots:
-    void commandWordOpensItsDialog_data() {
-        QTest::addColumn<QString>("commandLine");
-        QTest::addColumn<StartDialog>("dialog");
-        QTest::newRow("VTalus") << "VTalus" << StartDialog::SlopeSearch;
-        QTest::newRow("VGene") << "VGene" << StartDialog::General;
-        QTest::newRow("VAbout") << "VAbout" << StartDialog::About;
-        QTest::newRow("lower case") << "vgene" << StartDialog::Chooser;
-        QTest::newRow("blank behind") << "VGene " << StartDialog::Chooser;
-        QTest::newRow("blank in front") << " VGene" << StartDialog::Chooser;
-        QTest::newRow("second word") << "VGene x" << StartDialog::Chooser;
-        QTest::newRow("nothing") << "" << StartDialog::Chooser;
-        QTest::newRow("other word") << "VChoix" << StartDialog::Chooser;
-    }
+    // One word, compared exactly; anything else opens the chooser.
     void commandWordOpensItsDialog() {
-        QFETCH(QString, commandLine);
-        QFETCH(StartDialog, dialog);
-        QCOMPARE(DialogForCommandLine(commandLine), dialog);
+        using enum StartDialog;
+        const std::pair<const char*, StartDialog> rows[] = {
+            {"VTalus", SlopeSearch}, {"VGene", General}, {"VAbout", About}, {"vgene", Chooser}, {"VGene ", Chooser},
+            {" VGene", Chooser},     {"VGene x", Chooser}, {"", Chooser},   {"VChoix", Chooser}};
+        for (const auto& [line, dialog] : rows) QCOMPARE(DialogForCommandLine(QString::fromLatin1(line)), dialog);
     }
 
-    void commandLineIsTheWordsAfterTheProgram_data() {
-        QTest::addColumn<QStringList>("argv");
-        QTest::addColumn<QString>("commandLine");
-        QTest::newRow("no word") << QStringList{"Brimo2010"} << "";
-        QTest::newRow("one word") << QStringList{"Brimo2010", "VGene"} << "VGene";
-        QTest::newRow("blank kept") << QStringList{"Brimo2010", "VGene "} << "VGene ";
-        QTest::newRow("two words") << QStringList{"Brimo2010", "VGene", "x"} << "VGene x";
-    }
+    // The command line is the words after the program, joined by a blank.
     void commandLineIsTheWordsAfterTheProgram() {
-        QFETCH(QStringList, argv);
-        QFETCH(QString, commandLine);
-        std::vector<QByteArray> bytes;
-        std::vector<const char*> pointers;
-        for (const QString& word : argv) bytes.push_back(word.toLocal8Bit());
-        for (const QByteArray& word : bytes) pointers.push_back(word.constData());
-        QCOMPARE(CommandLineOf(int(pointers.size()), pointers.data()), commandLine);
+        const std::pair<std::vector<const char*>, const char*> rows[] = {
+            {{"Brimo2010"}, ""}, {{"Brimo2010", "VGene"}, "VGene"}, {{"Brimo2010", "VGene "}, "VGene "},
+            {{"Brimo2010", "VGene", "x"}, "VGene x"}};
+        for (const auto& [argv, line] : rows)
+            QCOMPARE(CommandLineOf(int(argv.size()), argv.data()), QString::fromLatin1(line));
     }
 
-    // Enter right after opening presses the button with the focus, not the
-    // default button: the user lands in CVarGlobale.
-    void enterAtOpeningPressesGeneral() {
+    // The keyboard right after opening: Enter presses the button with the
+    // focus, not the default button; Space presses the button Shift+Tab
+    // reaches; Escape closes nothing.
+    void keysAtOpening_data() {
+        QTest::addColumn<QList<Qt::Key>>("keys");
+        QTest::addColumn<QStringList>("windowsAfter");
+        QTest::newRow("Enter") << QList<Qt::Key>{Qt::Key_Return} << QStringList{"CVarGlobale"};
+        QTest::newRow("Shift+Tab, Space") << QList<Qt::Key>{Qt::Key_Backtab, Qt::Key_Space} << QStringList{"CGeneralForm"};
+        QTest::newRow("Escape") << QList<Qt::Key>{Qt::Key_Escape} << QStringList{"CChoixForm"};
+    }
+    void keysAtOpening() {
+        QFETCH(QList<Qt::Key>, keys);
+        QFETCH(QStringList, windowsAfter);
         MainModule module;
         recordEnd(module);
-        CChoixForm* chooser = module.Show<CChoixForm>();
-        QVERIFY(QTest::qWaitForWindowActive(chooser));
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Return);
-        QCOMPARE(openWindows(), QStringList{"CVarGlobale"});
+        QVERIFY(QTest::qWaitForWindowActive(module.Show<CChoixForm>()));
+        for (Qt::Key key : keys) QTest::keyClick(QApplication::focusWidget(), key);
+        QCOMPARE(openWindows(), windowsAfter);
         QVERIFY(!endStatus_);
     }
 
-    void spaceOnHiddenButtonPressesIt() {
-        MainModule module;
-        CChoixForm* chooser = module.Show<CChoixForm>();
-        QVERIFY(QTest::qWaitForWindowActive(chooser));
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Backtab);
-        QCOMPARE(focusName(), QStringLiteral("CmdCadreLayers"));
-        QTest::keyClick(QApplication::focusWidget(), Qt::Key_Space);
-        QCOMPARE(openWindows(), QStringList{"CGeneralForm"});
-    }
-
-    void escapeClosesNothing() {
-        MainModule module;
-        CChoixForm* chooser = module.Show<CChoixForm>();
-        QVERIFY(QTest::qWaitForWindowActive(chooser));
-        QTest::keyClick(chooser, Qt::Key_Escape);
-        QVERIFY(chooser->isVisible());
-    }
-
-    void buttonLeadsToItsForm_data() {
-        QTest::addColumn<QString>("button");
-        QTest::addColumn<bool>("aboutOpenBefore");
-        QTest::addColumn<QStringList>("windowsAfter");
-        QTest::addColumn<int>("endStatus"); // -1: no end
-        const struct {
-            const char* button;
-            QStringList opened;
-            bool chooserStays;
-            int endStatus;
-        } rows[] = {
-            {"CmdChoixPiedTalus", {"CParamRechTalus"}, false, -1},
-            {"CmdCadreLayers", {"CGeneralForm"}, false, -1},
-            {"CmdChoixGeneral", {"CVarGlobale"}, false, -1},
-            {"CmdChoixAbout", {"CAboutForm"}, true, -1},
-            {"CmdChoixQuitter", {}, true, 0},
-        };
-        for (const auto& row : rows) {
+    // Each button and what it opens or ends, with the about window open before or not.
+    void buttonLeadsToItsForm() {
+        const struct { const char* button; QStringList opened; bool chooserStays; int endStatus; } rows[] = {
+            {"CmdChoixPiedTalus", {"CParamRechTalus"}, false, -1}, {"CmdCadreLayers", {"CGeneralForm"}, false, -1},
+            {"CmdChoixGeneral", {"CVarGlobale"}, false, -1},       {"CmdChoixAbout", {"CAboutForm"}, true, -1},
+            {"CmdChoixQuitter", {}, true, 0}};
+        for (const auto& row : rows)
             for (bool aboutOpen : {false, true}) {
+                MainModule module;
+                recordEnd(module);
+                CChoixForm* chooser = module.Show<CChoixForm>();
+                if (aboutOpen) chooser->CmdChoixAbout_Click();
+                chooser->findChild<QPushButton*>(row.button)->click();
                 QStringList after = row.opened;
                 if (row.chooserStays) after.append("CChoixForm");
                 if (aboutOpen) after.append("CAboutForm");
                 after.removeDuplicates();
                 after.sort();
-                QTest::addRow("%s%s", row.button, aboutOpen ? ", about open" : "")
-                    << row.button << aboutOpen << after << row.endStatus;
+                QVERIFY2(openWindows() == after, qPrintable(QStringLiteral("%1 %2").arg(row.button).arg(aboutOpen)));
+                QVERIFY2(endStatus_.value_or(-1) == row.endStatus, row.button);
             }
-        }
-    }
-    void buttonLeadsToItsForm() {
-        QFETCH(QString, button);
-        QFETCH(bool, aboutOpenBefore);
-        QFETCH(QStringList, windowsAfter);
-        QFETCH(int, endStatus);
-        MainModule module;
-        recordEnd(module);
-        CChoixForm* chooser = module.Show<CChoixForm>();
-        if (aboutOpenBefore) chooser->CmdChoixAbout_Click();
-        chooser->findChild<QPushButton*>(button)->click();
-        QCOMPARE(openWindows(), windowsAfter);
-        QCOMPARE(endStatus_.value_or(-1), endStatus);
     }
 
     // One window per form: Show of an open form brings it forward without

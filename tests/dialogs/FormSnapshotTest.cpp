@@ -5,12 +5,10 @@
 #include "dialogs/about/CAboutForm.h"
 #include "dialogs/chooser/CChoixForm.h"
 #include "dialogs/drawing/CVarGlobale.h"
-#include "dialogs/general/CGeneralForm.h"
+#include "dialogs/general/GeneralFormFixture.h"
 #include "dialogs/slope/CParamRechTalus.h"
 #include "support/FormDump.h"
-#include "support/FormServices.h"
 #include "support/Golden.h"
-#include "support/ScratchPrefix.h"
 
 #include <QAccessible>
 #include <QRadioButton>
@@ -40,15 +38,8 @@ const Form kForms[] = {
     {"drawing.txt", [](FormServices& s) { return s.show(new CVarGlobale); }},
 };
 
-// French and German legends, whose line n reads "FRA n" and "DEU n".
-void writeLegends(const ScratchPrefix& prefix) {
-    prefix.writeZorelIni(QStringLiteral("C:\\Zorel"), QStringLiteral("C:\\Zorel\\Var"), QStringLiteral("jo"));
-    for (const char* language : {"FRA", "DEU"}) {
-        QByteArray legends;
-        for (int n = 1; n <= 174; ++n) legends += "0000 " + QByteArray(language) + ' ' + QByteArray::number(n) + "\r\n";
-        prefix.write(QStringLiteral("C:\\Zorel\\Lang\\ZorelMsg_%1.txt").arg(QLatin1String(language)), legends);
-    }
-}
+// The fixture writes French and German legends, whose line n reads "FRA n" and "DEU n".
+using FormSnapshot = GeneralFormTest;
 
 // What a screen reader hears of each control that takes the focus, and of
 // each tab, in alphabetical order (a row of tabs is heard by its tabs).
@@ -68,9 +59,7 @@ QStringList spokenNames(QWidget* form) {
 
 // Every control says a name of its own, in the language of the legends; the
 // language switch of the general dialog renames all at once.
-TEST(FormSnapshot, EveryControlSaysANameOfItsOwnInTheLegendsLanguage) {
-    ScratchPrefix prefix;
-    writeLegends(prefix);
+TEST_F(FormSnapshot, EveryControlSaysANameOfItsOwnInTheLegendsLanguage) {
     for (const Form& form : kForms) {
         FormServices services;
         services.load();
@@ -89,9 +78,7 @@ TEST(FormSnapshot, EveryControlSaysANameOfItsOwnInTheLegendsLanguage) {
     }
 }
 
-TEST(FormSnapshot, EveryFormAsBuiltAndLoaded) {
-    ScratchPrefix prefix;
-    writeLegends(prefix);
+TEST_F(FormSnapshot, EveryFormAsBuiltAndLoaded) {
     for (const Form& form : kForms) {
         FormServices services;
         services.load();

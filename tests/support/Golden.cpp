@@ -30,18 +30,4 @@ void ExpectGolden(const QString& name, const QByteArray& actual) {
                   << want.value(line).toStdString() << "\n  actual:   " << got.value(line).toStdString();
 }
 
-QByteArray GoldenWith(const QString& name, const QList<std::pair<QByteArray, QByteArray>>& edits) {
-    QList<QByteArray> lines = Golden(name).split('\n');
-    for (const auto& [head, text] : edits) {
-        const auto at = std::find_if(lines.begin(), lines.end(), [&](const QByteArray& l) { return l.startsWith(head); });
-        if (at == lines.end()) {
-            ADD_FAILURE() << "no line " << head.toStdString() << " in " << name.toStdString();
-            continue;
-        }
-        if (text.isEmpty()) lines.erase(at);
-        else *at = text + (at->endsWith('\r') ? "\r" : "");
-    }
-    return lines.join('\n');
-}
-
 } // namespace brimo::test

@@ -14,8 +14,4 @@ QByteArray Golden(const QString& name);
 // instead: after a deliberate change, whose diff is then reviewed.
 void ExpectGolden(const QString& name, const QByteArray& actual);
 
-// The lines of a golden file with some replaced or removed: each edit is a
-// line's beginning and its new text, or an empty text to drop the line.
-QByteArray GoldenWith(const QString& name, const QList<std::pair<QByteArray, QByteArray>>& edits);
-
 } // namespace brimo::test

@@ -1,5 +1,5 @@
-// CGeneralForm driven as a user drives it: what OK writes from stored values
-// and edits, what it refuses, the words of every language, and the buttons.
+// CGeneralForm driven as a user drives it (what OK writes is in
+// CommitCasesTest): what it refuses, the words of every language, and the buttons.
 // Its layout and captions at load are pinned by the form snapshots.
 #include "GeneralFormFixture.h"
 
@@ -18,90 +18,12 @@
 #include <QTest>
 #include <QTimer>
 
-#include <functional>
+#include <tuple>
 
 namespace brimo::test {
 namespace {
 
-const QString kDefaultLisp = QStringLiteral("Brimo_Gene-defaults.lsp");
-using Edits = QList<std::pair<QByteArray, QByteArray>>;
-using Texts = QList<std::pair<const char*, const char*>>;
-
-QByteArray crlf(const char* utf8) { return cp1252(utf8).replace("\n", "\r\n"); }
-
-struct Commit {
-    const char* name;
-    const char* stored; // Brimo.ini before, LF line ends; nullptr: no file
-    std::function<void(GeneralFormTest&)> edit;
-    Texts lispEdits;       // against the defaults' Lisp file (hand-composed)
-    Texts iniEdits;        // against the defaults' Brimo.ini (hand-composed)
-    const char* iniGolden; // or Brimo.ini after, as a golden file
-};
-
 using GeneralCommitTest = GeneralFormTest;
-
-TEST_F(GeneralCommitTest, OkWritesBothFilesFromWhatTheControlsHold) {
-    const Commit commits[] = {
-        {"defaults", nullptr, nullptr, {}, {}, nullptr},
-        {"Enter in a field commits its text untested", nullptr,
-         [](GeneralFormTest& t) {
-             auto* val0 = t.find<QLineEdit>("Val0");
-             t.find<QTabWidget>("SSTab1")->setCurrentIndex(0);
-             val0->setFocus();
-             QTest::keyClicks(val0, "abc");
-             QTest::keyClick(val0, Qt::Key_Return);
-         },
-         {{"(setq cadre_usery", "(setq cadre_usery abc) ;Largeur du cadre users"}}, {{"cadre_usery=", "cadre_usery=abc"}},
-         nullptr},
-        {"stored values outside the options, a grey check box, other keys and sections",
-         "[Brimo_Gene]\nx_def_ounit=5\nx_chttt=7\nx_lang=fra\naffilogoKVO=2\nx_chtxt=9\n[Brimo_Talus]\nx_QZ_tal_dh=4\n",
-         nullptr, {{"(setq x_def_ounit", ""}}, {}, "general-commit/unknown-choices.ini"},
-        {"stored choices come back, keys matched without regard to case",
-         "[Brimo_Gene]\nx_def_ounit=2\nx_def_punit=1\nx_chttt=1\nAffiProfil=0\nx_chtlay=1\nPath_Win5=C:\\Outils\\a.exe\n",
-         nullptr,
-         {{"(setq x_def_ounit", "(setq x_def_ounit 2) ;L'unité par défaut de l'espace objet est le m"},
-          {"(setq x_def_punit", "(setq x_def_punit 1) ;L'unité par défaut de l'espace papier est le cm"},
-          {"(setq x_chttt", "(setq x_chttt 1) ;Commande Autocad aprés choix du style - Texte sur une ligne"},
-          {"(setq affiprofil", "(setq affiprofil 0) ;Affichage du profil dessin - Inactif"},
-          {"(setq x_chtlay", "(setq x_chtlay 1) ;Layers à utiliser après l'appel de la commande - Layers courant"},
-          {"(setq path_win5", "(setq path_win5 \"C:\\\\Outils\\\\a.exe\") ;Emplacement d'un programme personnel"}},
-         {}, "general-commit/stored-choices.ini"},
-        {"a click on Check3 and on an option", nullptr,
-         [](GeneralFormTest& t) {
-             t.find<QCheckBox>("Check3")->click();
-             t.find<QRadioButton>("Option4(6)")->click();
-             t.find<QCheckBox>("Check2")->click();
-         },
-         {{"(setq x_chtlay", "(setq x_chtlay 1) ;Layers à utiliser après l'appel de la commande - Layers courant"},
-          {"(setq x_chttt", "(setq x_chttt 3) ;Commande Autocad aprés choix du style - Texte paragraphe"},
-          {"(setq affiprofil", "(setq affiprofil 0) ;Affichage du profil dessin - Inactif"}},
-         {{"x_chtlay=", "x_chtlay=1"}, {"x_chttt=", "x_chttt=3"}, {"affiprofil=", "affiprofil=0"}}, nullptr},
-    };
-    for (const Commit& c : commits) {
-        SCOPED_TRACE(c.name);
-        TearDown();
-        QDir(prefix.native(QStringLiteral("C:\\Zorel\\Var\\jo"))).removeRecursively();
-        prefix.makeFolder(QStringLiteral("C:\\Zorel\\Var\\jo"));
-        SetUp();
-        if (c.stored) writeBrimoIni(crlf(c.stored));
-        open();
-        if (c.edit) c.edit(*this);
-        if (ends().isEmpty()) find<QPushButton>("cmdOK")->click();
-        Edits lispEdits;
-        for (const auto& [head, line] : c.lispEdits) lispEdits.append({QByteArray(head), cp1252(line)});
-        EXPECT_EQ(lisp(), GoldenWith(kDefaultLisp, lispEdits));
-        // Keys already stored keep their place, with their spelling; the
-        // others follow in the order of the rows.
-        if (c.iniGolden) ExpectGolden(QString::fromLatin1(c.iniGolden), ini());
-        else {
-            Edits iniEdits;
-            for (const auto& [head, line] : c.iniEdits) iniEdits.append({QByteArray(head), QByteArray(line)});
-            EXPECT_EQ(ini(), GoldenWith(QStringLiteral("Brimo-defaults.ini"), iniEdits));
-        }
-        EXPECT_EQ(ends(), QList<int>{0});
-        EXPECT_TRUE(messages.isEmpty());
-    }
-}
 
 TEST_F(GeneralCommitTest, ADoubleQuoteInALispStringIsRefusedWithEveryEditKept) {
     open();
@@ -130,45 +52,30 @@ TEST_F(GeneralCommitTest, ADoubleQuoteInALispStringIsRefusedWithEveryEditKept) {
 // A commit that cannot write shows one message naming the file and why,
 // changes nothing and ends with status 1.
 TEST_F(GeneralCommitTest, ACommitThatCannotWriteReportsAndChangesNothing) {
-    const struct {
-        const char* name;
-        std::function<void(GeneralFormTest&)> spoil;
-        QString named;
-        std::function<QString(GeneralFormTest&)> reason;
-    } failures[] = {
-        {"folder missing", [](GeneralFormTest& t) { QDir(t.prefix.native("C:\\Zorel\\Var\\jo")).removeRecursively(); },
-         kLispPath,
-         [](GeneralFormTest& t) {
-             return "the folder " + t.prefix.root() + "/dosdevices/c:/Zorel/Var/jo does not exist";
-         }},
-        {"read-only Brimo.ini",
-         [](GeneralFormTest& t) {
-             QFile::setPermissions(t.prefix.native(kIniPath), QFile::ReadOwner | QFile::ReadGroup | QFile::ReadOther);
-         },
-         kIniPath, [](GeneralFormTest&) { return QStringLiteral("the file is read-only"); }},
-        {"a folder where Brimo_Gene.lsp should be",
-         [](GeneralFormTest& t) {
-             QFile::remove(t.prefix.native(kLispPath));
-             t.prefix.makeFolder(kLispPath);
-         },
-         kLispPath, [](GeneralFormTest&) { return QStringLiteral("a folder of that name stands in the way"); }},
+    enum Spoil { NoFolder, ReadOnlyIni, FolderForLisp };
+    const std::tuple<Spoil, QString, QString> failures[] = {
+        {NoFolder, kLispPath, "the folder $/dosdevices/c:/Zorel/Var/jo does not exist"},
+        {ReadOnlyIni, kIniPath, "the file is read-only"},
+        {FolderForLisp, kLispPath, "a folder of that name stands in the way"},
     };
-    for (const auto& failure : failures) {
-        SCOPED_TRACE(failure.name);
+    for (const auto& [spoil, named, reason] : failures) {
+        SCOPED_TRACE(reason.toStdString());
         TearDown();
         QDir(prefix.native(QStringLiteral("C:\\Zorel\\Var\\jo"))).removeRecursively();
         SetUp();
         writeBrimoIni("[Brimo_Gene]\r\nx_incli=3\r\n");
         prefix.write(kLispPath, "old");
         open();
-        failure.spoil(*this);
+        if (spoil == NoFolder) QDir(prefix.native("C:\\Zorel\\Var\\jo")).removeRecursively();
+        if (spoil == ReadOnlyIni) QFile::setPermissions(prefix.native(kIniPath), QFile::ReadOwner | QFile::ReadOther);
+        if (spoil == FolderForLisp) QFile::remove(prefix.native(kLispPath)), prefix.makeFolder(kLispPath);
         const QByteArray iniBefore = ini(), lispBefore = lisp();
         find<QPushButton>("cmdOK")->click();
         ASSERT_EQ(messages.size(), 1);
         EXPECT_EQ(messages[0].text.toStdString(), QStringLiteral("Le fichier %1 n'a pas pu être écrit : %2.\r\n"
                                                    "Aucun fichier n'a été modifié.\r\n\r\n"
                                                    "The file %1 could not be written: %2.\r\nNo file was changed.")
-                                        .arg(failure.named, failure.reason(*this)).toStdString());
+                                        .arg(named, QString(reason).replace(u'$', prefix.root())).toStdString());
         EXPECT_EQ(ends(), QList<int>{1});
         EXPECT_EQ(ini(), iniBefore);
         EXPECT_EQ(lisp(), lispBefore);
@@ -327,49 +234,38 @@ TEST_F(GeneralFormTest, EscapeCommand8AndAClickOnACheckBoxDoNoHarm) {
     EXPECT_FALSE(prefix.exists(kLispPath) || prefix.exists(kIniPath));
 }
 
-// Answers the next file dialog: notes what it shows, then picks `file` or cancels.
-struct FileDialogSeen {
-    QString title;
-    QStringList filters;
-    QStringList initial;
-};
-void answerNextFileDialog(FileDialogSeen& seen, const QString& file) {
-    QTimer::singleShot(0, [&seen, file] {
-        auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
-        if (!dialog) return;
-        seen = {dialog->windowTitle(), dialog->nameFilters(), dialog->selectedFiles()};
-        if (file.isEmpty()) return dialog->reject();
-        dialog->selectFile(file);
-        static_cast<QDialog*>(dialog)->accept(); // as the Open button does
-    });
-}
-
+// A program button opens a file dialog titled by its legend, with the filter
+// of legend 173, on the field's file; the chosen file goes into the field, a
+// cancel changes nothing, a file outside the prefix keeps its native path.
 TEST_F(GeneralFormTest, AProgramButtonPutsTheChosenFileIntoItsField) {
     writeLegends("FRA", {{173, "Programmes (*.exe)|*.exe|Tous (*.*)|*.*"}});
     prefix.write("C:\\Outils\\calc.exe", "");
     writeBrimoIni("[Brimo_Gene]\r\nPath_Win2=C:\\Outils\\calc.exe\r\n");
     open();
-    FileDialogSeen seen;
-    answerNextFileDialog(seen, prefix.native("C:\\Outils\\neuf.exe"));
-    find<QPushButton>("Command5")->click();
-    EXPECT_EQ(seen.title, legend("FRA", 172));
-    EXPECT_EQ(seen.filters, QStringList({"Programmes (*.exe)", "Tous (*.*)"}));
-    EXPECT_EQ(find<QLineEdit>("Text15")->text(), "C:\\Outils\\neuf.exe");
-
-    // The dialog opens on the field's file; a cancel changes nothing.
-    answerNextFileDialog(seen, {});
-    find<QPushButton>("Command2")->click();
-    EXPECT_EQ(seen.title, legend("FRA", 169));
-    ASSERT_EQ(seen.initial.size(), 1);
-    EXPECT_EQ(QFileInfo(seen.initial[0]).canonicalFilePath(),
-              QFileInfo(prefix.native("C:\\Outils\\calc.exe")).canonicalFilePath());
-    EXPECT_EQ(find<QLineEdit>("Text12")->text(), "C:\\Outils\\calc.exe");
-
-    // A file outside the prefix keeps its native path.
-    answerNextFileDialog(seen, "/usr/bin/env");
-    find<QPushButton>("Command6")->click();
-    EXPECT_EQ(seen.title, legend("FRA", 174));
-    EXPECT_EQ(find<QLineEdit>("Text18")->text(), "/usr/bin/env");
+    const struct { const char* button; int title; const char* field; QString answer, after; bool opensOnField; } rows[] = {
+        {"Command5", 172, "Text15", prefix.native("C:\\Outils\\neuf.exe"), "C:\\Outils\\neuf.exe", false},
+        {"Command2", 169, "Text12", {}, "C:\\Outils\\calc.exe", true},
+        {"Command6", 174, "Text18", "/usr/bin/env", "/usr/bin/env", false},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.button);
+        QString title;
+        QStringList filters, initial;
+        QTimer::singleShot(0, [&] {
+            auto* dialog = qobject_cast<QFileDialog*>(QApplication::activeModalWidget());
+            if (!dialog) return;
+            title = dialog->windowTitle(), filters = dialog->nameFilters(), initial = dialog->selectedFiles();
+            if (row.answer.isEmpty()) return dialog->reject();
+            dialog->selectFile(row.answer);
+            static_cast<QDialog*>(dialog)->accept(); // as the Open button does
+        });
+        find<QPushButton>(row.button)->click();
+        EXPECT_EQ(title, legend("FRA", row.title));
+        EXPECT_EQ(filters, QStringList({"Programmes (*.exe)", "Tous (*.*)"}));
+        EXPECT_EQ(find<QLineEdit>(row.field)->text(), row.after);
+        if (row.opensOnField)
+            EXPECT_EQ(QFileInfo(initial.value(0)).canonicalFilePath(), QFileInfo(prefix.native(row.after)).canonicalFilePath());
+    }
 }
 
 } // namespace

@@ -60,10 +60,7 @@ TEST(SlopeDiagram, MeshesHaveTheirSizeReachAndKnownLines) {
             distinct.insert({a.x, a.y, b.x, b.y});
         }
         EXPECT_EQ(distinct.size(), mesh.size()) << "a mesh line is drawn twice";
-        EXPECT_EQ(left, c.left);
-        EXPECT_EQ(top, c.top);
-        EXPECT_EQ(right, c.right);
-        EXPECT_EQ(bottom, c.bottom);
+        EXPECT_EQ(std::tuple(left, top, right, bottom), std::tuple(c.left, c.top, c.right, c.bottom));
         for (const auto& [a, b] : c.mustHave)
             EXPECT_TRUE(std::ranges::any_of(mesh, [&](const SketchLine& l) { return joins(l, a, b); }))
                 << a.x << "," << a.y << " to " << b.x << "," << b.y;

@@ -1,0 +1,12 @@
+(setq QZ_ancien 1) ;plus lu
+(setq QZ_ancien 1) ;plus lu
+(setq QZ_ancien 1) ;plus lu
+(setq QZ_ancien 1) ;plus lu
+(setq QZ_ancien 1) ;plus lu
+(setq QZ_ancien 1) ;plus lu
+(setq QZ_ancien 1) ;plus lu
+(setq QZ_ancien 1) ;plus lu
+(setq QZ_ancien 1) ;plus lu
+(setq QZ_ancien 1) ;plus lu
+(setq QZ_ancien 1) ;plus lu
+(setq QZ_ancien 1) ;plus lu
