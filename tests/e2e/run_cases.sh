@@ -12,10 +12,7 @@ window_id() { xdotool search --onlyvisible --name "^$1\$" 2>/dev/null | head -n1
 step_install() { cp -r "$here/installs/$1/." "$WINEPREFIX/drive_c/"; }
 step_start() { eval "set -- $1"; e2e_start "$@"; }
 step_window() { e2e_wait_window "$1" >/dev/null || fail "no window '$1'"; }
-step_focus() {
-  local id; id=$(e2e_wait_window "$1") || fail "no window '$1'"
-  xdotool windowfocus --sync "$id"; sleep 0.5
-}
+step_focus() { local id; id=$(e2e_wait_window "$1") || fail "no window '$1'"; xdotool windowfocus --sync "$id"; sleep 0.5; }
 step_keys() { e2e_keys $1; }
 step_type() { e2e_type "$1"; }
 step_gone() { sleep 0.5; [ -z "$(window_id "$1")" ] || fail "the window '$1' is open"; }
