@@ -1,5 +1,5 @@
 # Shared steps of the end-to-end tests: a scratch Wine-style prefix, a private
-# Xvfb display, the real binary, xdotool for the keyboard, screenshots.
+# Xvfb display, the real binary, xdotool for the keyboard.
 # Source it; call e2e_setup first. Exit code 77 marks a skipped test.
 
 set -euo pipefail
@@ -85,6 +85,3 @@ e2e_wait_exit() {
 # e2e_keys KEY...: sends keys to the focused window
 e2e_keys() { xdotool key --delay 60 "$@"; sleep 0.3; }
 e2e_type() { xdotool type --delay 40 -- "$1"; sleep 0.3; }
-
-# e2e_screenshot FILE: the whole screen as PNG
-e2e_screenshot() { import -window root "$1"; }

@@ -1,0 +1,12 @@
+(setq QZ_ancien 1) ;plus lu
+(setq QZ_ancien 2) ;plus lu
+(setq QZ_ancien 3) ;plus lu
+(setq QZ_ancien 4) ;plus lu
+(setq QZ_ancien 5) ;plus lu
+(setq QZ_ancien 6) ;plus lu
+(setq QZ_ancien 7) ;plus lu
+(setq QZ_ancien 8) ;plus lu
+(setq QZ_ancien 9) ;plus lu
+(setq QZ_ancien 10) ;plus lu
+(setq QZ_ancien 11) ;plus lu
+(setq QZ_ancien 12) ;plus lu
