@@ -1,7 +1,7 @@
 // brimo-settings set against the dialogs' OK: the same values, typed into the
 // fields or given on the command line, must give the same bytes in both
-// files. Run under a point-decimal and a comma-decimal locale.
-#include "SettingsRun.h"
+// files; and the history keeps the commits of both programs. Run under a
+// point-decimal and a comma-decimal locale.
 #include "dialogs/general/GeneralFormFixture.h"
 #include "dialogs/slope/CParamRechTalus.h"
 #include "model/GeneralCommit.h"
@@ -16,6 +16,7 @@
 #include <QKeyEvent>
 #include <QLocale>
 #include <QLineEdit>
+#include <QProcess>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QTabWidget>
@@ -24,50 +25,30 @@
 namespace brimo::test {
 namespace {
 
-using Values = QList<QPair<const char*, const char*>>; // key, value (UTF-8)
+using Values = QList<QPair<QString, QString>>; // key, value
 
 struct ParityCase {
-    const char* name;
+    QString name;
+    bool slope;           // the slope dialog, else the general one
+    QChar decimal;        // run only under this decimal symbol (a text that
+                          // one locale repairs, the other refuses); null: both
     QByteArray storedIni; // Brimo.ini before; empty: none
     Values values;
-    char decimal = 0;     // run only under this decimal symbol (a text that
-                          // one locale repairs, the other refuses)
 };
 
-const ParityCase kGeneralCases[] = {
-    {"defaults", {}, {}},
-    {"stored values, odd ones too",
-     "[Brimo_Gene]\r\ncadre_usery=900\r\nx_ht_gc1=abc\r\nx_def_ounit=5\r\nx_chttt=7\r\nAffiProfil=2\r\n"
-     "x_chtlay=1\r\npath_win5=D:\\Outils\\prog.exe\r\nx_chtxt=1\r\n[Brimo_Talus]\r\nx_QZ_tal_dh=9\r\n",
-     {}},
-    {"rule repairs",
-     "[Brimo_Gene]\r\ncadre_usery=900\r\n",
-     {{"cadre_usery", ""}, {"cadre_decal", "-2.50"}, {"x_color_zm10", "300"},
-      {"cadre_couleur", "256.5"}, {"cadre_layer", ""}, {"x_compress", "2,5"}, {"x_color_gcc", "1e400"},
-      {"x_incli", "-12"}, {"x_ht_gc15", "1e39"}}},
-    {"leading point", {}, {{"x_ht_gc1", ".5"}, {"x_ht_gc2", "-.5"}, {"x_ht_gcc", "-2.50"}}, '.'},
-    {"decimal comma", {}, {{"x_ht_gc1", "-,5"}, {"x_ht_gc2", "-2,50"}, {"x_incli", "-1,25"}}, ','},
-    {"texts and paths",
-     {},
-     {{"x_nom_bureau", "Bureau d'études Nord"}, {"x_lieu_bureau", "Genève"}, {"Path_Win1", "D:\\Outils\\x.exe"},
-      {"Path_Win5", ""}, {"x_style_cot", "  "}}},
-    {"choices and check boxes",
-     "[Brimo_Gene]\r\nx_chtlay=1\r\n",
-     {{"x_def_ounit", "0"}, {"x_def_punit", "2"}, {"x_chttt", "3"}, {"x_lang", "DEU"}, {"affilogoKVO", "0"},
-      {"x_chtlay", "0"}, {"AffiProfil", "1"}}},
-    {"language FRA", "[Brimo_Gene]\r\nx_lang=FRA\r\n", {{"x_nom_bureau", "Un"}}},
-    {"language ENG", "[Brimo_Gene]\r\nx_lang=ENG\r\n", {{"x_nom_bureau", "Two"}}},
-    {"language DEU", "[Brimo_Gene]\r\nx_lang=DEU\r\n", {{"x_nom_bureau", "Drei"}}},
-    {"language ITA", "[Brimo_Gene]\r\nx_lang=ITA\r\n", {{"x_ht_gc2", "-3"}}},
-};
-
-const ParityCase kSlopeCases[] = {
-    {"opening values", "[Brimo_Talus]\r\nx_QZ_tal_dh=9\r\n", {}},
-    {"repairs and choices",
-     {},
-     {{"x_QZ_tal_dh", "-4"}, {"x_QZ_tal_max", ""}, {"x_QZ_fact_flch", "2,5"}, {"x_QZ_ecart_pts", "0.5"},
-      {"x_QZ_asp_dess", "points"}, {"x_QZ_des_tal", "3"}}},
-};
+QList<ParityCase> ReadCases() {
+    QFile file(QStringLiteral(BRIMO_PARITY_TABLE));
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    QList<ParityCase> cases;
+    for (const QString& line : QString::fromUtf8(file.readAll()).split(QLatin1Char('\n'), Qt::SkipEmptyParts)) {
+        const QStringList f = line.split(QLatin1Char('\t'));
+        if (line.startsWith(QLatin1Char('#'))) continue;
+        ParityCase c{f[0], f[1] == "slope", f[2] == "-" ? QChar() : f[2][0], f[3] == "-" ? "" : f[3].toUtf8().replace('|', "\r\n"), {}};
+        for (const QString& value : f.mid(4)) c.values.append({value.section(QLatin1Char('='), 0, 0), value.section(QLatin1Char('='), 1)});
+        cases.append(c);
+    }
+    return cases;
+}
 
 class SettingsParityTest : public GeneralFormTest {
 protected:
@@ -77,9 +58,9 @@ protected:
         writeLegends(QStringLiteral("ITA"));
     }
 
-    void resetFiles(const ParityCase& c) {
+    void resetFiles(const QByteArray& storedIni) {
         for (const QString& path : {kIniPath, kLispPath, kTalusPath}) QFile::remove(prefix.native(path));
-        if (!c.storedIni.isEmpty()) writeBrimoIni(c.storedIni);
+        if (!storedIni.isEmpty()) writeBrimoIni(storedIni);
     }
 
     QByteArray files() const { return "--- ini\n" + ini() + "--- gene\n" + lisp() + "--- talus\n" + prefix.read(kTalusPath); }
@@ -99,29 +80,29 @@ protected:
         QTest::keyClick(field, Qt::Key_Tab);
     }
 
-    // The general dialog: each value typed into its field or chosen.
+    // The general dialog: each value typed into its field or chosen, then OK.
     void generalDialog(const Values& values) {
         services = std::make_unique<FormServices>();
         open();
         for (const auto& [key, value] : values) {
-            const char* control = nullptr;
+            QString name;
             for (const GeneralVariableRow& row : kGeneralVariableCatalogue)
-                if (QString::fromLatin1(row.key).compare(QLatin1String(key), Qt::CaseInsensitive) == 0) control = row.field;
-            const QString name = QLatin1String(control);
+                if (key.compare(QLatin1String(row.key), Qt::CaseInsensitive) == 0) name = QLatin1String(row.field);
             if (name.startsWith(QLatin1String("Check")))
-                find<QCheckBox>(name)->setCheckState(QLatin1String(value) == "1" ? Qt::Checked : Qt::Unchecked);
+                find<QCheckBox>(name)->setCheckState(value == "1" ? Qt::Checked : Qt::Unchecked);
             else if (name.startsWith(QLatin1String("Option")))
                 for (const ChoiceTest& test : kGeneralChoiceTests)
                     if (QLatin1String(test.button).startsWith(name + '(') && QLatin1String(test.value) == value)
                         find<QRadioButton>(QLatin1String(test.button))->setChecked(true);
             if (name.startsWith(QLatin1String("Val")) || name.startsWith(QLatin1String("Text")))
-                typeAndLeave(find<QLineEdit>(name), QString::fromUtf8(value));
+                typeAndLeave(find<QLineEdit>(name), value);
         }
         static_cast<QPushButton*>(find<QWidget>(QStringLiteral("cmdOK")))->click();
         ASSERT_EQ(ends(), QList<int>{0});
         form = nullptr;
     }
 
+    // The slope dialog: the same, then its OK (Command1).
     void slopeDialog(const Values& values) {
         services = std::make_unique<FormServices>();
         services->load();
@@ -129,55 +110,62 @@ protected:
         slope->activateWindow();
         ASSERT_TRUE(QTest::qWaitForWindowActive(slope));
         for (const auto& [key, value] : values) {
-            const QString text = QString::fromUtf8(value);
-            if (QLatin1String(key) == "x_QZ_asp_dess")
-                slope->findChild<QCheckBox*>(text == "points" ? "Check2" : "Check1")->setChecked(true);
-            else if (QLatin1String(key) == "x_QZ_des_tal")
-                slope->findChild<QRadioButton*>(text == "3" ? "Option2" : "Option1")->setChecked(true);
+            if (key == "x_QZ_asp_dess")
+                slope->findChild<QCheckBox*>(value == "points" ? "Check2" : "Check1")->setChecked(true);
+            else if (key == "x_QZ_des_tal")
+                slope->findChild<QRadioButton*>(value == "3" ? "Option2" : "Option1")->setChecked(true);
             else
-                typeAndLeave(slope->findChild<QLineEdit*>(slopeField(key)), text);
+                for (const FieldRule& rule : SlopeFieldRules())
+                    if (QLatin1String(rule.key) == key) typeAndLeave(slope->findChild<QLineEdit*>(QLatin1String(rule.control)), value);
         }
         slope->findChild<QPushButton*>("Command1")->click();
         ASSERT_EQ(ends(), QList<int>{0});
     }
 
-    static QString slopeField(const char* key) {
-        for (const FieldRule& rule : SlopeFieldRules())
-            if (QLatin1String(rule.key) == key) return QLatin1String(rule.control);
-        return {};
+    // The real brimo-settings on the prefix: its exit status and standard
+    // output; what it says on stderr goes to the test's output.
+    int run(const QStringList& arguments, QByteArray* output = nullptr) {
+        QProcess process;
+        process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+        process.start(QStringLiteral(BRIMO_SETTINGS_EXE), arguments + QStringList{QStringLiteral("--prefix"), prefix.root()});
+        process.waitForFinished(60000);
+        if (output) *output = process.readAllStandardOutput();
+        return process.exitCode();
     }
 
-    QByteArray viaTool(const QStringList& dialog, const Values& values) {
-        QStringList arguments = QStringList{QStringLiteral("set"), QStringLiteral("--prefix"), prefix.root()} + dialog;
-        for (const auto& [key, value] : values) arguments.append(QLatin1String(key) + '=' + QString::fromUtf8(value));
-        const SettingsRun run = RunSettings(arguments);
-        EXPECT_EQ(run.status, 0) << run.errors.toStdString();
+    QByteArray viaTool(bool slope, const Values& values) {
+        QStringList arguments{QStringLiteral("set"), QStringLiteral("--dialog"), QLatin1String(slope ? "slope" : "general")};
+        for (const auto& [key, value] : values) arguments.append(key + '=' + value);
+        EXPECT_EQ(run(arguments), 0);
         return files();
+    }
+
+    // Each commit of the history as "number program what first-key".
+    QStringList history() {
+        QByteArray output;
+        run({QStringLiteral("history"), QStringLiteral("--json")}, &output);
+        QStringList entries;
+        for (const QJsonValue entry : QJsonDocument::fromJson(output).array().first()["entries"].toArray())
+            entries.append(QStringLiteral("%1 %2 %3 %4").arg(entry["number"].toInt()).arg(entry["program"].toString(),
+                           entry["what"].toString(), entry["keys"].toArray().first().toString()));
+        return entries;
     }
 
     static inline const QString kTalusPath = QStringLiteral("C:\\Zorel\\Var\\jo\\Brimo_Talus.lsp");
 };
 
-TEST_F(SettingsParityTest, SetWritesWhatTheGeneralDialogsOkWrites) {
-    for (const ParityCase& c : kGeneralCases) {
-        if (c.decimal && QLocale::system().decimalPoint() != QLatin1Char(c.decimal)) continue;
-        SCOPED_TRACE(c.name);
-        resetFiles(c);
-        generalDialog(c.values);
+TEST_F(SettingsParityTest, SetWritesWhatTheDialogsOkWrites) {
+    const QList<ParityCase> cases = ReadCases();
+    ASSERT_EQ(cases.size(), 13);
+    for (const ParityCase& c : cases) {
+        if (!c.decimal.isNull() && QLocale::system().decimalPoint() != c.decimal) continue;
+        SCOPED_TRACE(c.name.toStdString());
+        resetFiles(c.storedIni);
+        if (c.slope) slopeDialog(c.values);
+        else generalDialog(c.values);
         const QByteArray dialog = files();
-        resetFiles(c);
-        EXPECT_EQ(viaTool({}, c.values), dialog);
-    }
-}
-
-TEST_F(SettingsParityTest, SetWritesWhatTheSlopeDialogsOkWrites) {
-    for (const ParityCase& c : kSlopeCases) {
-        SCOPED_TRACE(c.name);
-        resetFiles(c);
-        slopeDialog(c.values);
-        const QByteArray dialog = files();
-        resetFiles(c);
-        EXPECT_EQ(viaTool({QStringLiteral("--dialog"), QStringLiteral("slope")}, c.values), dialog);
+        resetFiles(c.storedIni);
+        EXPECT_EQ(viaTool(c.slope, c.values), dialog);
     }
 }
 
@@ -188,26 +176,17 @@ TEST_F(SettingsParityTest, HistoryKeepsEveryCommitAndRestoreGoesBack) {
     writeBrimoIni("[Brimo_Gene]\r\nx_nom_bureau=Avant\r\nx_chtxt=1\r\n");
     prefix.write(kLispPath, "(setq x_nom_bureau \"Avant\") ;Nom de votre bureau\r\n");
     const QByteArray before = files();
-    viaTool({}, {{"x_nom_bureau", "Un"}});
+    viaTool(false, {{"x_nom_bureau", "Un"}});
     generalDialog({{"x_ht_gc2", "3"}});
     prefix.write(QStringLiteral("C:\\office.ini"), "[Brimo_Gene]\r\nx_lang=DEU\r\n");
-    ASSERT_EQ(RunSettings({"apply", prefix.native(QStringLiteral("C:\\office.ini")), "--prefix", prefix.root()}).status, 0);
-
-    const auto history = [&] {
-        const SettingsRun run = RunSettings({"history", "--json", "--prefix", prefix.root()});
-        QStringList entries; // number, program, what, first key
-        for (const QJsonValue entry : QJsonDocument::fromJson(run.output.toUtf8()).array().first()["entries"].toArray())
-            entries.append(QStringLiteral("%1 %2 %3 %4").arg(entry["number"].toInt()).arg(entry["program"].toString(),
-                           entry["what"].toString(), entry["keys"].toArray().first().toString()));
-        return entries;
-    };
+    ASSERT_EQ(run({QStringLiteral("apply"), prefix.native(QStringLiteral("C:\\office.ini"))}), 0);
     const QStringList three = {"1 brimo-settings set Brimo_Gene/x_nom_bureau", "2 settings_tests OK Brimo_Gene/x_ht_gc2",
                                "3 brimo-settings apply Brimo_Gene/x_lang"};
     EXPECT_EQ(history(), three);
-    EXPECT_EQ(RunSettings({"restore", "1", "--prefix", prefix.root()}).status, 0);
+    EXPECT_EQ(run({QStringLiteral("restore"), QStringLiteral("1")}), 0);
     EXPECT_EQ(files(), before);
     EXPECT_EQ(history(), three + QStringList{"4 brimo-settings restore 1 Brimo_Gene/x_nom_bureau"});
-    EXPECT_EQ(RunSettings({"restore", "9", "--prefix", prefix.root()}).status, 3);
+    EXPECT_EQ(run({QStringLiteral("restore"), QStringLiteral("9")}), 3);
 }
 
 } // namespace
