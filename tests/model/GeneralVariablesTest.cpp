@@ -49,22 +49,12 @@ TEST(GeneralVariables, MissingOrUnreadableFilesGiveEveryDefault) {
     }
 }
 
-// Values stay text as read, cut to 254 characters; only an empty one takes
-// the default. Keys and section match without regard to case.
+// general-variables/Brimo.ini: values stay text as read, cut to 254
+// characters; only an empty one takes the default; other sections are not
+// read; keys and section match without regard to case.
 TEST(GeneralVariables, FileValuesStayTextAsRead) {
     ScratchPrefix prefix;
-    prefix.write(kIni, test::cp1252("[Other]\r\nx_ht_gc1=99\r\n"
-                                    "[brimo_gene]\r\n"
-                                    "x_ht_gc1=abc\r\n"
-                                    "cadre_usery=0\r\n"
-                                    "x_compress=  \r\n"
-                                    "x_incli=\"\"\r\n"
-                                    "affiprofil=0\r\n"
-                                    "path_win1=D:\\Tools\\x.exe\r\n"
-                                    "x_nom_bureau=Büro \"Nord\"\r\n"
-                                    "x_lang=ENG\r\n"
-                                    "x_chtxt=kept\r\n") +
-                           "x_tel_bureau=" + QByteArray(300, 'n') + "\r\n");
+    prefix.write(kIni, test::Golden(QStringLiteral("general-variables/Brimo.ini")));
     test::ExpectGolden(QStringLiteral("general-variables/from-file.tsv"), loadedValues());
 }
 

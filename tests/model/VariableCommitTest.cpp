@@ -32,28 +32,29 @@ QMap<QString, QByteArray> filesUnder(const QString& root) {
     return files;
 }
 
+// Into a Brimo.ini that keeps every other byte, and into a new one; a
+// read-only staged copy that a killed commit left does not stop the commit.
 TEST(VariableCommit, WritesBothFilesAndKeepsTheRestOfTheProfile) {
-    ScratchPrefix prefix;
-    const QByteArray before = "; comment\r\n[Brimo_Talus]\r\nx=1\r\n\r\n[Brimo_Gene]\r\nB = old\r\nx_chtxt=7\r\n";
-    prefix.write(kIni, before);
-    prefix.write(kLisp, "old lisp content that must go\r\n");
-    // A read-only staged copy that a killed commit left does not stop this one.
-    prefix.write(kIni + ".brimo-new", "left by a kill");
-    QFile::setPermissions(prefix.native(kIni + ".brimo-new"), QFileDevice::ReadOwner);
-    const CommitOutcome outcome = commit();
-    ASSERT_TRUE(outcome.ok) << outcome.reason.toStdString();
-    EXPECT_EQ(prefix.read(kLisp), QByteArray("(setq a 1) ;A\r\n(setq b \"\xe9\") ;B\r\n"));
-    EXPECT_EQ(prefix.read(kIni),
-              QByteArray("; comment\r\n[Brimo_Talus]\r\nx=1\r\n\r\n[Brimo_Gene]\r\nB = \xe9\r\nx_chtxt=7\r\na=1\r\n"));
-    EXPECT_EQ(QDir(prefix.native(QStringLiteral("C:\\Var\\U"))).entryList(QDir::Files | QDir::Hidden),
-              QStringList({"Brimo.ini", "Brimo_Gene.lsp"})); // no journal, no staged copy
-}
-
-TEST(VariableCommit, CreatesTheProfileWhenTheFolderExists) {
-    ScratchPrefix prefix;
-    prefix.makeFolder(QStringLiteral("C:\\Var\\U"));
-    ASSERT_TRUE(commit().ok);
-    EXPECT_EQ(prefix.read(kIni), QByteArray("[Brimo_Gene]\r\na=1\r\nb=\xe9\r\n"));
+    const std::pair<QByteArray, QByteArray> inis[] = {
+        {"; comment\r\n[Brimo_Talus]\r\nx=1\r\n\r\n[Brimo_Gene]\r\nB = old\r\nx_chtxt=7\r\n",
+         "; comment\r\n[Brimo_Talus]\r\nx=1\r\n\r\n[Brimo_Gene]\r\nB = \xe9\r\nx_chtxt=7\r\na=1\r\n"},
+        {"", "[Brimo_Gene]\r\na=1\r\nb=\xe9\r\n"}};
+    for (const auto& [before, after] : inis) {
+        ScratchPrefix prefix;
+        prefix.makeFolder(QStringLiteral("C:\\Var\\U"));
+        if (!before.isEmpty()) {
+            prefix.write(kIni, before);
+            prefix.write(kLisp, "old lisp content that must go\r\n");
+            prefix.write(kIni + ".brimo-new", "left by a kill");
+            QFile::setPermissions(prefix.native(kIni + ".brimo-new"), QFileDevice::ReadOwner);
+        }
+        const CommitOutcome outcome = commit();
+        ASSERT_TRUE(outcome.ok) << outcome.reason.toStdString();
+        EXPECT_EQ(prefix.read(kLisp), QByteArray("(setq a 1) ;A\r\n(setq b \"\xe9\") ;B\r\n"));
+        EXPECT_EQ(prefix.read(kIni), after);
+        EXPECT_EQ(QDir(prefix.native(QStringLiteral("C:\\Var\\U"))).entryList(QDir::Files | QDir::Hidden),
+                  QStringList({"Brimo.ini", "Brimo_Gene.lsp"})); // no journal, no staged copy
+    }
 }
 
 // A Brimo.ini kept elsewhere behind a link: written through, the link stays,
