@@ -17,10 +17,7 @@ const QString kIni = QStringLiteral("C:\\Zorel\\Var\\Bureau1\\Brimo.ini");
 
 // Loads the Brimo.ini of user Bureau1 over values that are all set beforehand.
 QByteArray loadedValues() {
-    InstallInfo info;
-    info.prefix = WinePrefix::FromEnvironment();
-    info.Variables = QStringLiteral("C:\\Zorel\\Var");
-    info.actuel = QStringLiteral("Bureau1");
+    const InstallInfo info{WinePrefix::FromEnvironment(), {}, QStringLiteral("C:\\Zorel\\Var"), QStringLiteral("Bureau1")};
     GeneralVariables vars;
     for (const GeneralVariableRow& row : kGeneralVariableCatalogue) vars.setText(QLatin1String(row.key), QStringLiteral("set"));
     LoadGeneralVariables(info, vars);

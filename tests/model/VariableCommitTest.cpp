@@ -75,10 +75,7 @@ TEST(VariableCommit, WritesThroughALinkAndRecoversThroughIt) {
     prefix.write(shared + ".brimo-new", "new");
     prefix.write(QStringLiteral("C:\\Var\\U\\Brimo.commit-journal"),
                  ComposeCommitJournal({{"Brimo.ini.brimo-new", "Brimo.ini"}}));
-    InstallInfo info;
-    info.prefix = WinePrefix::FromEnvironment();
-    info.Variables = QStringLiteral("C:\\Var");
-    info.actuel = QStringLiteral("U");
+    const InstallInfo info{WinePrefix::FromEnvironment(), {}, QStringLiteral("C:\\Var"), QStringLiteral("U")};
     EXPECT_EQ(RecoverInterruptedCommit(info), Recovery::RolledForward);
     EXPECT_TRUE(QFileInfo(prefix.native(kIni)).isSymLink());
     EXPECT_EQ(prefix.read(shared), QByteArray("new"));

@@ -4,12 +4,14 @@
 #include "model/Tsv.h"
 #include "platform/CommitJournal.h"
 #include "platform/FileAccess.h"
+#include "support/ScratchPrefix.h"
 
 #include <QDir>
-#include <QTemporaryDir>
 
 namespace brimo {
 namespace {
+
+using test::ScratchPrefix;
 
 const QList<JournalEntry> kPair = {{"a.lsp.brimo-new", "a.lsp"}, {"b.ini.brimo-new", "b.ini"}};
 const QByteArray kJournal = ComposeCommitJournal(kPair);
@@ -25,16 +27,8 @@ TEST(Kills, RecoveryLeavesThePairWholeAndNoStagedFile) {
         ASSERT_EQ(row.size(), 6) << row[0].toStdString();
         ASSERT_TRUE(journals.contains(row[1]) && recoveries.contains(row[3])) << row[0].toStdString();
         SCOPED_TRACE(row[0].toStdString());
-        QTemporaryDir dir;
-        const auto put = [&](const QByteArray& name, const QByteArray& bytes) {
-            QFile f(dir.filePath(QString::fromLatin1(name)));
-            ASSERT_TRUE(f.open(QIODevice::WriteOnly));
-            f.write(bytes);
-        };
-        const auto get = [&](const char* name) {
-            QFile f(dir.filePath(QString::fromLatin1(name)));
-            return f.open(QIODevice::ReadOnly) ? f.readAll() : QByteArray("missing");
-        };
+        ScratchPrefix prefix; // the pair lies in C:\, beside a file that is not theirs
+        const auto put = [&](const QByteArray& name, const QByteArray& bytes) { prefix.write("C:\\" + name, bytes); };
         put("a.lsp", "old a");
         put("b.ini", "old b");
         put("outside", "keep");
@@ -42,11 +36,11 @@ TEST(Kills, RecoveryLeavesThePairWholeAndNoStagedFile) {
             if (!name.isEmpty()) put(name, "new " + name.left(1));
         if (!journals[row[1]].isEmpty()) put("journal", journals[row[1]]);
 
-        EXPECT_EQ(RecoverFilesTogether(dir.filePath("journal")), recoveries[row[3]]);
-        EXPECT_EQ(get("a.lsp"), row[4]);
-        EXPECT_EQ(get("b.ini"), row[5]);
-        EXPECT_EQ(get("outside"), QByteArray("keep"));
-        EXPECT_EQ(QDir(dir.path()).entryList(QDir::Files), QStringList({"a.lsp", "b.ini", "outside"}));
+        EXPECT_EQ(RecoverFilesTogether(prefix.native("C:\\journal")), recoveries[row[3]]);
+        EXPECT_EQ(prefix.read("C:\\a.lsp"), row[4]);
+        EXPECT_EQ(prefix.read("C:\\b.ini"), row[5]);
+        EXPECT_EQ(prefix.read("C:\\outside"), QByteArray("keep"));
+        EXPECT_EQ(QDir(prefix.native("C:")).entryList(QDir::Files), QStringList({"a.lsp", "b.ini", "outside"}));
     }
 }
 
