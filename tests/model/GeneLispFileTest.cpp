@@ -1,10 +1,10 @@
 // The Lisp file written from the default values, against the file composed
-// by hand (tests/golden), and the line forms on values of every kind.
+// by hand (tests/golden), and the line forms on values of every kind; the rows
+// of data/lisp-lines.tsv hold the doubled backslashes of the program paths.
 
 #include "Tsv.h"
 #include "model/GeneLispCatalogue.h"
 #include "model/GeneralVariables.h"
-#include "platform/Cp1252.h"
 #include "support/Golden.h"
 
 namespace brimo {
@@ -23,26 +23,11 @@ TEST(GeneLispFile, DefaultsGiveTheFileByteForByte) {
     EXPECT_EQ(written, test::Golden(QStringLiteral("Brimo_Gene-defaults.lsp")));
 }
 
-TEST(GeneLispFile, FrenchLanguageLineBytes) {
-    const QByteArray expected = QByteArray::fromHex(
-        QByteArray("28736574712078 5F6C616E672022 4652412229 3B204C616E67756520 6672616EE7616973200D0A").replace(" ", ""));
-    const auto line = GeneLispLine(kGeneLispCatalogue[41], QStringLiteral("FRA"));
-    ASSERT_TRUE(line.has_value());
-    EXPECT_EQ(ComposeLispFile({*line}), expected);
-}
-
 TEST(GeneLispFile, LineFormsKeepTheirValuesAsGiven) {
     for (const QList<QByteArray>& row : test::TsvRows("lisp-lines.tsv")) {
         const auto line = GeneLispLine(kGeneLispCatalogue[static_cast<size_t>(row[0].toInt() - 1)], QString::fromUtf8(row[1]));
         EXPECT_EQ(line.value_or(QStringLiteral("-")), QString::fromUtf8(row[2])) << row.join('\t').toStdString();
     }
-}
-
-TEST(EscapeBackslashes, DoublesEachBackslashOnce) {
-    EXPECT_EQ(EscapeBackslashes(QString()), QString());
-    EXPECT_EQ(EscapeBackslashes(QStringLiteral("abc")), QStringLiteral("abc"));
-    EXPECT_EQ(EscapeBackslashes(QStringLiteral("C:\\WINNT\\NOTEPAD.EXE")), QStringLiteral("C:\\\\WINNT\\\\NOTEPAD.EXE"));
-    EXPECT_EQ(EscapeBackslashes(QStringLiteral("\\\\")), QStringLiteral("\\\\\\\\"));
 }
 
 TEST(LispFile, CharactersOutsideTheCodePageBecomeQuestionMarks) {

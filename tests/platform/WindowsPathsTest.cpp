@@ -1,48 +1,23 @@
+#include "model/Tsv.h"
 #include "platform/WindowsPaths.h"
 #include "support/ScratchPrefix.h"
-
-#include <gtest/gtest.h>
 
 namespace brimo {
 namespace {
 
 using test::ScratchPrefix;
 
-TEST(WindowsPaths, TextMapping) {
-    ScratchPrefix prefix;
-    const QString p = prefix.root();
-    const QString c = p + "/dosdevices/c:";
-    const std::pair<const char*, QString> cases[] = {
-        {"C:\\windows\\zorel.ini", c + "/windows/zorel.ini"},
-        {"d:\\X\\\\y", p + "/dosdevices/d:/X//y"},
-        {"D:rel", p + "/dosdevices/d:/rel"},
-        {"\\Lang\\ZorelMsg_FRA.txt", c + "/Lang/ZorelMsg_FRA.txt"},
-        {"/opt/brimo/file", c + "/opt/brimo/file"},
-        {"rel\\file", c + "/rel/file"},
-        {"\\\\Brimo.ini", ""},
-        {"\\\\server\\share\\x", ""},
-        {"//server/share", ""},
-        {"", ""},
-        {"C:\\Zorel\\..\\..\\..\\..\\tmp\\x", c + "/tmp/x"},
-        {"C:\\Zorel\\Var\\..\\..\\..\\tmp\\x\\Brimo.ini", c + "/tmp/x/Brimo.ini"},
-        {"..\\..\\tmp/./x\\", c + "/tmp/x/"},
-        {"C:\\a\\b\\\\..\\c", c + "/a/c"},
-        {"C:..", c + "/"},
-        {"\xc3\xa9:\\x", c + "/\xc3\xa9:/x"},
-    };
-    for (const auto& [text, native] : cases) EXPECT_EQ(MapWindowsPathText(WinePrefix::FromEnvironment(), QString::fromUtf8(text)), native) << text;
-    EXPECT_EQ(GetWindowsFolder(), QStringLiteral("C:\\windows"));
-}
-
-TEST(WindowsPaths, NamesAreFoundWithoutRegardToCase) {
+TEST(WindowsPaths, MapsTextAndFindsNamesWithoutRegardToCase) {
     ScratchPrefix prefix;
     prefix.write(QStringLiteral("C:\\Zorel\\Lang\\ZorelMsg_FRA.txt"), "x");
-    EXPECT_EQ(ToNativePath(WinePrefix::FromEnvironment(), QStringLiteral("C:\\zorel\\LANG\\ZorelMsg_fra.txt")),
-              prefix.root() + "/dosdevices/c:/Zorel/Lang/ZorelMsg_FRA.txt");
-    // A missing file keeps the program's spelling; its folder is still found.
-    EXPECT_EQ(ToNativePath(WinePrefix::FromEnvironment(), QStringLiteral("C:\\ZOREL\\New.lsp")), prefix.root() + "/dosdevices/c:/Zorel/New.lsp");
-    // Doubled separators are left to the file system.
-    EXPECT_EQ(ToNativePath(WinePrefix::FromEnvironment(), QStringLiteral("C:\\Zorel\\\\lang")), prefix.root() + "/dosdevices/c:/Zorel//Lang");
+    const WinePrefix wine = WinePrefix::FromEnvironment();
+    for (const QList<QByteArray>& row : test::TsvRows("windows-paths.tsv")) {
+        ASSERT_EQ(row.size(), 3) << row.join('\t').toStdString();
+        const QString text = QString::fromUtf8(row[1]);
+        const QString native = row[2].isEmpty() ? QString() : prefix.root() + "/dosdevices/" + QString::fromUtf8(row[2]);
+        EXPECT_EQ(row[0] == "disk" ? ToNativePath(wine, text) : MapWindowsPathText(wine, text), native) << row[1].toStdString();
+    }
+    EXPECT_EQ(GetWindowsFolder(), QStringLiteral("C:\\windows"));
 }
 
 TEST(WindowsPaths, PrefixDefaultsToDotWineInHome) {
