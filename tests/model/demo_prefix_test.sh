@@ -3,7 +3,7 @@
 # it writes (tests/golden/demo), and what a second run keeps.
 # Usage: demo_prefix_test.sh SOURCE_DIR
 set -euo pipefail
-src=$1 golden=$1/tests/golden/demo
+src=$1 golden=$1/tests/golden/demo-prefix
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 fail() { echo "FAIL: $*" >&2; exit 1; }
