@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # The demo installation script: the prefix it lays out, the bytes of the files
-# it writes (tests/golden/demo), and what a second run keeps.
+# it writes (tests/golden/demo-prefix), and what a second run keeps.
 # Usage: demo_prefix_test.sh SOURCE_DIR
 set -euo pipefail
 src=$1 golden=$1/tests/golden/demo-prefix
