@@ -31,6 +31,7 @@ out, so that a verdict is the same from run to run.
 """
 import argparse
 import collections
+import filecmp
 import json
 import os
 import pathlib
@@ -206,19 +207,48 @@ class Suite:
 
     def __init__(self, scratch, revision):
         self.tree, self.build = scratch / "tree", scratch / "build"
-        if self.tree.exists():
-            shutil.rmtree(self.tree)
+        fresh = scratch / "fresh"
+        if fresh.exists():
+            shutil.rmtree(fresh)
         if revision:
-            self.tree.mkdir(parents=True)
+            fresh.mkdir(parents=True)
             archive = subprocess.run(["git", "archive", revision], cwd=ROOT, check=True, capture_output=True)
-            subprocess.run(["tar", "-x", "-C", self.tree], input=archive.stdout, check=True)
+            subprocess.run(["tar", "-x", "-C", fresh], input=archive.stdout, check=True)
         else:
-            shutil.copytree(ROOT, self.tree, ignore=shutil.ignore_patterns(".git", "build*", "demo"), symlinks=True)
+            top = lambda folder, names: [n for n in names if folder == str(ROOT) and
+                                         (n == ".git" or n == "demo" or n.startswith("build"))]
+            shutil.copytree(ROOT, fresh, ignore=top, symlinks=True)
+        self.refresh(fresh)
         self.configure(self.build, "-O1")
         self.tests = self.list_tests(self.build)
         if self.failing(self.build, set(self.tests), 900):
             sys.exit("the suite fails without any fault: mend it first")
         self.coverage = self.record_coverage(scratch / "coverage")
+
+    def refresh(self, fresh):
+        """Makes the tree the same as `fresh`, rewriting only the files that differ, so that the
+        builds of an earlier run of the same tree stay good and only what changed is built again."""
+        if self.tree.exists():
+            for path in sorted(self.tree.rglob("*"), reverse=True):
+                twin = fresh / path.relative_to(self.tree)
+                if path.is_symlink() or path.is_file():
+                    if not (twin.is_file() and not twin.is_symlink() and not path.is_symlink()
+                            and filecmp.cmp(path, twin, shallow=False)):
+                        path.unlink()
+                elif not twin.is_dir():
+                    shutil.rmtree(path)
+        for twin in fresh.rglob("*"):
+            path = self.tree / twin.relative_to(fresh)
+            if twin.is_symlink():
+                if not path.is_symlink():
+                    path.parent.mkdir(parents=True, exist_ok=True)
+                    path.symlink_to(os.readlink(twin))
+            elif twin.is_dir():
+                path.mkdir(parents=True, exist_ok=True)
+            elif not path.exists():
+                path.parent.mkdir(parents=True, exist_ok=True)
+                shutil.copy(twin, path)
+        shutil.rmtree(fresh)
 
     def configure(self, build, flags, link=""):
         link += " -fuse-ld=lld" if shutil.which("ld.lld") else ""
