@@ -105,7 +105,7 @@ QStringList CommitPlan::changedFiles() const {
     for (const File& file : files()) {
         // A file that cannot be read counts as changed: only a write can tell.
         const std::optional<QByteArray> before = ReadWholeFile(file.planned.nativePath);
-        if (!before || *before != file.planned.bytes) changed.append(file.windowsPath);
+        if (!before || before != file.planned.bytes) changed.append(file.windowsPath);
     }
     return changed;
 }
@@ -138,20 +138,18 @@ CommitOutcome RestoreHistoryEntry(const UserFolderLock& lock, int number, Histor
         return {false, HistoryFolder(nativeIni),
                 number ? QStringLiteral("no entry %1").arg(number) : QStringLiteral("no entry")};
     if (restored) *restored = *entry;
-    // Each file that existed before that commit gets its bytes back; one that
-    // did not is left as it is.
+    // Each file gets its bytes back; one that did not exist before that
+    // commit goes.
     const QString folder = QFileInfo(nativeIni).absolutePath() + QLatin1Char('/');
     QList<FileToWrite> planned;
-    QByteArray iniAfter;
+    QByteArray iniAfter = ReadWholeFile(nativeIni).value_or(QByteArray());
+    const QByteArray iniBefore = iniAfter;
     for (const KeptFile& file : entry->files) {
-        if (!file.bytes) continue;
-        planned.append({folder + file.name, *file.bytes});
-        if (folder + file.name == nativeIni) iniAfter = *file.bytes;
+        planned.append({folder + file.name, file.bytes});
+        if (folder + file.name == nativeIni) iniAfter = file.bytes.value_or(QByteArray());
     }
-    if (iniAfter.isNull()) iniAfter = ReadWholeFile(nativeIni).value_or(QByteArray());
-    CommitOutcome outcome = writeWithHistory(nativeIni, planned,
-                                             QStringLiteral("restore %1").arg(entry->number),
-                                             ChangedKeys(ReadWholeFile(nativeIni).value_or(QByteArray()), iniAfter));
+    CommitOutcome outcome = writeWithHistory(nativeIni, planned, QStringLiteral("restore %1").arg(entry->number),
+                                             ChangedKeys(iniBefore, iniAfter));
     if (!outcome.ok && outcome.file == nativeIni) outcome.file = lock.iniPath();
     return outcome;
 }

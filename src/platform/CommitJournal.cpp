@@ -26,8 +26,8 @@ bool isEntry(QByteArrayView line, JournalEntry* entry) {
     const qsizetype tab = line.indexOf('\t');
     if (tab < 0) return false;
     const QByteArrayView staged = line.first(tab), target = line.sliced(tab + 1);
-    if (!isBareName(staged) || !isBareName(target)) return false;
-    if (staged != QByteArray(target.toByteArray() + kStagedSuffix)) return false;
+    if (!isBareName(target)) return false;
+    if (!staged.isEmpty() && staged != QByteArray(target.toByteArray() + kStagedSuffix)) return false;
     if (entry) *entry = {staged.toByteArray(), target.toByteArray()};
     return true;
 }

@@ -7,6 +7,7 @@
 // Its bytes, all names bare file names of the journal's own folder:
 //   Brimo commit journal 1\n
 //   <staged>\t<target>\n         one line per file, in the order of the moves
+//   \t<target>\n                 a file that is removed in its turn
 //   end\t<SHA-256 in hex of every byte before this line>\n
 
 #include <QByteArray>
@@ -21,8 +22,8 @@ namespace brimo {
 inline constexpr char kStagedSuffix[] = ".brimo-new";
 
 struct JournalEntry {
-    QByteArray staged; // file names, as the file system spells them
-    QByteArray target;
+    QByteArray staged; // file names, as the file system spells them; no
+    QByteArray target; // staged file: the target is removed
     bool operator==(const JournalEntry&) const = default;
 };
 
@@ -39,8 +40,9 @@ struct JournalReading {
 };
 
 // Only a journal that ComposeCommitJournal could have written reads as
-// Complete, and each of its entries names a staged file and its target
-// (`target` + kStagedSuffix) inside the journal's folder.
+// Complete, and each of its entries names a target inside the journal's
+// folder and, unless it is removed, its staged file (`target` +
+// kStagedSuffix).
 JournalReading ReadCommitJournal(QByteArrayView bytes);
 
 } // namespace brimo

@@ -173,6 +173,7 @@ bool WriteFilesTogether(const QList<FileToWrite>& files, const QString& journalP
     const QString folder = folderOf(journalPath);
     // Each file as written: the file its links lead to, its staged copy
     // beside it, and the old content where a later move could fail.
+    // A file that goes has no staged copy.
     struct Move {
         QString target, staged;
         std::optional<QByteArray> previous;
@@ -180,7 +181,8 @@ bool WriteFilesTogether(const QList<FileToWrite>& files, const QString& journalP
     QList<Move> moves;
     QList<JournalEntry> entries;
     const auto dropStaged = [&] {
-        for (const Move& move : moves) QFile::remove(move.staged);
+        for (const Move& move : moves)
+            if (!move.staged.isEmpty()) QFile::remove(move.staged);
     };
     for (const FileToWrite& file : files) {
         if (failedPath) *failedPath = file.nativePath;
@@ -204,12 +206,18 @@ bool WriteFilesTogether(const QList<FileToWrite>& files, const QString& journalP
             }
         }
         QFile::remove(move.staged); // what a killed commit left, read-only or not
-        if (!writeDurably(move.staged, file.bytes, error)) return dropStaged(), false;
-        moves.append(move);
-        if (old.exists()) QFile::setPermissions(move.staged, old.permissions());
         // The journal names the files as the folder holds them; a start
         // follows their links as this commit did.
         const QString name = QFileInfo(file.nativePath).fileName();
+        if (!file.bytes) {
+            move.staged.clear();
+            moves.append(move);
+            entries.append({{}, QFile::encodeName(name)});
+            continue;
+        }
+        if (!writeDurably(move.staged, *file.bytes, error)) return dropStaged(), false;
+        moves.append(move);
+        if (old.exists()) QFile::setPermissions(move.staged, old.permissions());
         entries.append({QFile::encodeName(name + QLatin1String(kStagedSuffix)), QFile::encodeName(name)});
     }
 
@@ -222,7 +230,8 @@ bool WriteFilesTogether(const QList<FileToWrite>& files, const QString& journalP
     }
     for (qsizetype i = 0; i < moves.size(); ++i) {
         const Move& move = moves[i];
-        if (::rename(QFile::encodeName(move.staged).constData(), QFile::encodeName(move.target).constData()) == 0)
+        if (move.staged.isEmpty() ? RemoveFile(move.target)
+                                  : ::rename(QFile::encodeName(move.staged).constData(), QFile::encodeName(move.target).constData()) == 0)
             continue;
         if (failedPath) *failedPath = files[i].nativePath;
         if (error) *error = QString::fromLocal8Bit(std::strerror(errno));
@@ -244,6 +253,10 @@ bool WriteFilesTogether(const QList<FileToWrite>& files, const QString& journalP
     QFile::remove(journalPath);
     SyncFolder(folder);
     return true;
+}
+
+bool RemoveFile(const QString& nativePath) {
+    return ::unlink(QFile::encodeName(nativePath).constData()) == 0 || errno == ENOENT;
 }
 
 bool KeepFileAs(const QString& source, const QByteArray& bytes, const QString& copy, QString* error) {

@@ -38,6 +38,9 @@ std::optional<QString> FollowLinks(const QString& nativePath, QString* error = n
 // one), else the bytes written. False, with `error`, when neither works.
 bool KeepFileAs(const QString& source, const QByteArray& bytes, const QString& copy, QString* error = nullptr);
 
+// Removes the file; true too when there was none. errno says why not.
+bool RemoveFile(const QString& nativePath);
+
 // Flushes the entries of a folder (the names created, moved or removed in it)
 // to the disk, so that a move survives a power loss.
 bool SyncFolder(const QString& nativeFolder);
@@ -48,7 +51,7 @@ namespace brimo {
 
 struct FileToWrite {
     QString nativePath;
-    QByteArray bytes;
+    std::optional<QByteArray> bytes; // none: the file goes
 };
 
 // Writes several files of one folder all or nothing, even across a kill or
@@ -56,8 +59,9 @@ struct FileToWrite {
 // links lead to, and kStagedSuffix), flushed to the disk; then the journal
 // at `journalPath` (same folder) names them all and is flushed; then the
 // staged copies are moved over the files in the order given, the folders
-// are flushed, and the journal removed. Only regular files are replaced.
-// Should a move fail, the files already moved get their old content back.
+// are flushed, and the journal removed. A file that goes has no staged
+// copy: the journal names it alone and it is removed in its turn. Only
+// regular files are replaced or removed. Should a move fail, the files already moved get their old content back.
 // On failure `failedPath` names the file and `error` says why. The caller
 // holds the folder's lock.
 bool WriteFilesTogether(const QList<FileToWrite>& files, const QString& journalPath, QString* failedPath,

@@ -20,17 +20,19 @@ void report(const QString& path, const char* what) {
 }
 
 // Moves each staged copy that is still there over its file, following the
-// file's links as the commit did. A copy that is gone was moved before the
-// kill.
+// file's links as the commit did, and removes each file that goes. A copy
+// that is gone was moved before the kill.
 bool rollForward(const QString& folder, const QList<JournalEntry>& entries, const QString& journalPath) {
     for (const JournalEntry& entry : entries) {
         QString why;
         const std::optional<QString> target = FollowLinks(folder + QLatin1Char('/') + QFile::decodeName(entry.target), &why);
         const QString staged = target.value_or(QString()) + QLatin1String(kStagedSuffix);
-        if (target && !QFileInfo::exists(staged)) continue;
-        if (!target || ::rename(QFile::encodeName(staged).constData(), QFile::encodeName(*target).constData()) != 0) {
+        const bool removal = entry.staged.isEmpty();
+        if (target && !removal && !QFileInfo::exists(staged)) continue;
+        if (!target || (removal ? !RemoveFile(*target)
+                                : ::rename(QFile::encodeName(staged).constData(), QFile::encodeName(*target).constData()) != 0)) {
             if (target) why = QString::fromLocal8Bit(std::strerror(errno));
-            const QByteArray what = "cannot move " + entry.staged + ": " + why.toLocal8Bit() +
+            const QByteArray what = "cannot " + (removal ? "remove " + entry.target : "move " + entry.staged) + ": " + why.toLocal8Bit() +
                                     "; the commit is left to finish at the next start";
             report(journalPath, what.constData());
             return false;

@@ -215,9 +215,9 @@ PrefixReport restoreOnPrefix(const Options& options, int number, const WinePrefi
     const QString windowsFolder = user.lock().iniPath().left(user.lock().iniPath().lastIndexOf(QLatin1Char('\\')) + 1);
     QByteArray iniBack = ReadWholeFile(nativeIni).value_or(QByteArray());
     for (const KeptFile& file : entry->files) {
-        if (!file.bytes || ReadWholeFile(folder + file.name) == *file.bytes) continue;
+        if (ReadWholeFile(folder + file.name) == file.bytes) continue;
         report.files.append(windowsFolder + file.name);
-        if (folder + file.name == nativeIni) iniBack = *file.bytes;
+        if (folder + file.name == nativeIni) iniBack = file.bytes.value_or(QByteArray());
     }
     const ProfileDocument now(ReadWholeFile(nativeIni).value_or(QByteArray())), back(iniBack);
     for (const QString& changed : ChangedKeys(now.bytes(), back.bytes())) {

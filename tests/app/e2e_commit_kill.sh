@@ -84,13 +84,18 @@ for name in sorted(os.listdir(history)) if os.path.isdir(history) else []:
 PY
 }
 
+# keep FILE COPY: the copy has FILE's bytes, or is absent as FILE is.
+keep() { rm -f "$2"; [ ! -e "$1" ] || cp "$1" "$2"; }
+# same FILE COPY: FILE is as keep left COPY.
+same() { if [ -e "$2" ]; then cmp -s "$1" "$2"; else [ ! -e "$1" ]; fi; }
+
 check_pair() { # round
   local left
   check_history "$1"
   left=$(ls -A "$folder" | grep -v -x -e Brimo.ini -e Brimo_Talus.lsp -e Brimo.history || true)
   [ -z "$left" ] || { echo "FAIL: round $1 left: $left"; exit 1; }
-  if cmp -s "$lisp" "$E2E_DIR/old.lsp" && cmp -s "$ini" "$E2E_DIR/old.ini"; then old=$((old + 1))
-  elif cmp -s "$lisp" "$E2E_DIR/new.lsp" && cmp -s "$ini" "$E2E_DIR/new.ini"; then new=$((new + 1))
+  if same "$lisp" "$E2E_DIR/old.lsp" && same "$ini" "$E2E_DIR/old.ini"; then old=$((old + 1))
+  elif same "$lisp" "$E2E_DIR/new.lsp" && same "$ini" "$E2E_DIR/new.ini"; then new=$((new + 1))
   else
     echo "FAIL: round $1 left a mismatched pair"
     grep -a 'QZ_tal_dh' "$lisp" "$E2E_DIR/old.lsp" "$E2E_DIR/new.lsp"
@@ -156,8 +161,9 @@ echo "$((old + new)) of $kills consistent: $old both old, $new both new;" \
      "the start finished $forward commits and undid $back"
 
 # brimo-settings restore, killed at a random moment: "old" is the pair before
-# it, "new" the pair that the last history entry kept. Each restore is kept
-# in turn, so the next one goes back again.
+# it, "new" the pair that the last history entry kept, where a file that
+# did not exist then is gone. Each restore is kept in turn, so the next one
+# goes back again.
 start=$(date +%s%N)
 "$settings" restore --prefix "$WINEPREFIX" > /dev/null || { echo "FAIL: a whole restore"; exit 1; }
 restore_ms=$((($(date +%s%N) - start) / 1000000))
@@ -165,9 +171,9 @@ echo "one restore of a 10 MB Brimo.ini: ${restore_ms} ms"
 old=0 new=0 restores=$((kills / 2))
 for round in $(seq 1 "$restores"); do
   last=$(ls "$folder/Brimo.history" | grep -x '[0-9]*' | tail -n 1)
-  cp "$lisp" "$E2E_DIR/old.lsp"; cp "$ini" "$E2E_DIR/old.ini"
-  cp "$folder/Brimo.history/$last/Brimo_Talus.lsp" "$E2E_DIR/new.lsp"
-  cp "$folder/Brimo.history/$last/Brimo.ini" "$E2E_DIR/new.ini"
+  keep "$lisp" "$E2E_DIR/old.lsp"; keep "$ini" "$E2E_DIR/old.ini"
+  keep "$folder/Brimo.history/$last/Brimo_Talus.lsp" "$E2E_DIR/new.lsp"
+  keep "$folder/Brimo.history/$last/Brimo.ini" "$E2E_DIR/new.ini"
   python3 -c '
 import random, signal, subprocess, sys, time
 p = subprocess.Popen(sys.argv[1:3] + ["--prefix", sys.argv[3]], stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)

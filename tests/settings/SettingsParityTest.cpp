@@ -170,11 +170,10 @@ TEST_F(SettingsParityTest, SetWritesWhatTheDialogsOkWrites) {
 }
 
 // Three commits by both programs, each kept in the history with its program
-// and keys; restore 1 brings both files back to their bytes before the first,
-// and is kept in turn.
+// and keys; restore 1 brings the files back as they were before the first
+// (the Lisp file, which the first made, goes), and is kept in turn.
 TEST_F(SettingsParityTest, HistoryKeepsEveryCommitAndRestoreGoesBack) {
     writeBrimoIni("[Brimo_Gene]\r\nx_nom_bureau=Avant\r\nx_chtxt=1\r\n");
-    prefix.write(kLispPath, "(setq x_nom_bureau \"Avant\") ;Nom de votre bureau\r\n");
     const QByteArray before = files();
     viaTool(false, {{"x_nom_bureau", "Un"}});
     generalDialog({{"x_ht_gc2", "3"}});
@@ -185,6 +184,7 @@ TEST_F(SettingsParityTest, HistoryKeepsEveryCommitAndRestoreGoesBack) {
     EXPECT_EQ(history(), three);
     EXPECT_EQ(run({QStringLiteral("restore"), QStringLiteral("1")}), 0);
     EXPECT_EQ(files(), before);
+    EXPECT_FALSE(QFile::exists(prefix.native(kLispPath)));
     EXPECT_EQ(history(), three + QStringList{"4 brimo-settings restore 1 Brimo_Gene/x_nom_bureau"});
     EXPECT_EQ(run({QStringLiteral("restore"), QStringLiteral("9")}), 3);
 }
