@@ -172,8 +172,8 @@ bool WriteFilesTogether(const QList<FileToWrite>& files, const QString& journalP
                         QString* error) {
     const QString folder = folderOf(journalPath);
     // Each file as written: the file its links lead to, its staged copy
-    // beside it, and the old content where a later move could fail.
-    // A file that goes has no staged copy.
+    // beside it (none for a file that goes), and the old content where a
+    // later move could fail.
     struct Move {
         QString target, staged;
         std::optional<QByteArray> previous;

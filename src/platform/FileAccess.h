@@ -61,9 +61,9 @@ struct FileToWrite {
 // staged copies are moved over the files in the order given, the folders
 // are flushed, and the journal removed. A file that goes has no staged
 // copy: the journal names it alone and it is removed in its turn. Only
-// regular files are replaced or removed. Should a move fail, the files already moved get their old content back.
-// On failure `failedPath` names the file and `error` says why. The caller
-// holds the folder's lock.
+// regular files are replaced or removed. Should a move fail, the files
+// already moved get their old content back. On failure `failedPath` names
+// the file and `error` says why. The caller holds the folder's lock.
 bool WriteFilesTogether(const QList<FileToWrite>& files, const QString& journalPath, QString* failedPath,
                         QString* error);
 
