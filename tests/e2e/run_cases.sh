@@ -23,6 +23,7 @@ step_class() {
   local class; class=$(xprop -id "$(window_id "$1")" WM_CLASS) || fail "no window '$1'"
   [[ $class == *"$2"* ]] || fail "'$1' has $class"
 }
+step_said() { grep -Eq -- "$1" "$E2E_DIR/out.log" || fail "the program did not say /$1/"; }
 step_same() { cmp "$here/expected/$1" "$(e2e_native "$2")" || fail "$2 is not expected/$1"; }
 # The close box without a window manager: a WM_DELETE_WINDOW client message
 # (an XClientMessageEvent laid out as longs, as on a 64-bit system).

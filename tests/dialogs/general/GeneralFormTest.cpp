@@ -33,7 +33,10 @@ TEST_F(GeneralCommitTest, ADoubleQuoteInALispStringIsRefusedWithEveryEditKept) {
     val15->setText("Bureau \"Nord\"");
     find<QPushButton>("cmdOK")->click();
     ASSERT_EQ(messages.size(), 1);
-    EXPECT_TRUE(messages[0].text.contains("x_nom_bureau") && messages[0].text.contains("Nom de votre bureau"));
+    EXPECT_EQ(messages[0].text.toStdString(),
+              "Le champ « Nom de votre bureau » (x_nom_bureau) contient un guillemet (\"), que le fichier Lisp ne peut "
+              "pas recevoir. Retirez-le, puis validez à nouveau.\r\n\r\nThe field \"Nom de votre bureau\" (x_nom_bureau) "
+              "holds a double quote (\"), which the Lisp file cannot take. Remove it, then press OK again.");
     EXPECT_EQ(tabs->currentIndex(), 3);
     EXPECT_EQ(QApplication::focusWidget(), val15);
     EXPECT_EQ(val15->text(), "Bureau \"Nord\"");

@@ -1,0 +1,1 @@
+(setq QZ_tal_dh 7)
