@@ -37,7 +37,7 @@ template <> QPointer<CVarGlobale>& MainModule::slot<CVarGlobale>() const { retur
 // Each form is handed what it uses.
 template <> CChoixForm* MainModule::create<CChoixForm>() { return new CChoixForm(*this); }
 template <> CGeneralForm* MainModule::create<CGeneralForm>() {
-    return new CGeneralForm(*this, installInfo, generalVariables, legendTable, *legendQuestion_);
+    return new CGeneralForm(*this, installInfo, generalVariables, storedGeneralVariables, legendTable, *legendQuestion_);
 }
 template <> CParamRechTalus* MainModule::create<CParamRechTalus>() {
     return new CParamRechTalus(*this, installInfo, legendTable);
@@ -132,6 +132,7 @@ int Main(int argc, char* argv[]) {
     // A commit cut off by a kill is finished or undone before Brimo.ini is read.
     RecoverInterruptedCommit(module.installInfo);
     LoadGeneralVariables(module.installInfo, module.generalVariables, &error);
+    module.storedGeneralVariables = module.generalVariables;
     report(error);
     module.LoadLegends();
 

@@ -29,6 +29,9 @@ public:
 
     InstallInfo installInfo;
     GeneralVariables generalVariables;
+    // As Brimo.ini held them at the start, whatever the language switch
+    // changes since: what the general dialog's OK compares the file with.
+    GeneralVariables storedGeneralVariables;
     LegendTable legendTable;
 
     // LoadLegends with the folder Zorel + "\Lang\" and the current x_lang.

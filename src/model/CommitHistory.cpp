@@ -44,27 +44,37 @@ QString partialFolder(const QString& history) {
            QString::number(++count);
 }
 
-std::optional<HistoryEntry> readEntry(const QString& folder, int number) {
-    const std::optional<QByteArray> bytes = ReadWholeFile(folder + QLatin1Char('/') + kEntryFile);
-    if (!bytes) return std::nullopt;
+// The record of an entry, and whether each file it says existed stands in
+// the entry as a regular file; `damaged` says what is wrong.
+HistoryEntry readRecord(const QString& folder, int number) {
+    HistoryEntry entry{number, {}, {}, {}, {}, {}, {}};
+    QString error;
+    const std::optional<QByteArray> bytes = ReadWholeFile(folder + QLatin1Char('/') + kEntryFile, &error, false);
+    if (!bytes) {
+        entry.damaged = QStringLiteral("%1: %2").arg(kEntryFile, error);
+        return entry;
+    }
     const QJsonObject json = QJsonDocument::fromJson(*bytes).object();
-    if (json.isEmpty()) return std::nullopt;
-    HistoryEntry entry{number,
-                       QDateTime::fromString(json.value(QLatin1String("when")).toString(), Qt::ISODate),
-                       json.value(QLatin1String("program")).toString(),
-                       json.value(QLatin1String("what")).toString(),
-                       {},
-                       {}};
+    if (json.isEmpty()) {
+        entry.damaged = QStringLiteral("%1: no record of a commit").arg(kEntryFile);
+        return entry;
+    }
+    entry.when = QDateTime::fromString(json.value(QLatin1String("when")).toString(), Qt::ISODate);
+    entry.program = json.value(QLatin1String("program")).toString();
+    entry.what = json.value(QLatin1String("what")).toString();
     for (const QJsonValue& key : json.value(QLatin1String("keys")).toArray()) entry.keys.append(key.toString());
     for (const QJsonValue& value : json.value(QLatin1String("files")).toArray()) {
         const QJsonObject file = value.toObject();
         const QString name = file.value(QLatin1String("name")).toString();
-        if (name.isEmpty() || name.contains(QLatin1Char('/')) || name.startsWith(QLatin1Char('.'))) return std::nullopt;
-        KeptFile kept{name, std::nullopt};
-        if (file.value(QLatin1String("existed")).toBool()) {
-            kept.bytes = ReadWholeFile(folder + QLatin1Char('/') + name);
-            if (!kept.bytes) return std::nullopt;
+        if (name.isEmpty() || name.contains(QLatin1Char('/')) || name.startsWith(QLatin1Char('.'))) {
+            entry.damaged = QStringLiteral("%1: \"%2\" names no file of the user's folder").arg(kEntryFile, name);
+            return entry;
         }
+        const KeptFile kept{name, file.value(QLatin1String("existed")).toBool(), std::nullopt};
+        const QFileInfo saved(folder + QLatin1Char('/') + name);
+        if (kept.existed && (saved.isSymLink() || !saved.isFile()))
+            entry.damaged = QStringLiteral("%1: %2").arg(name, saved.exists() || saved.isSymLink() ? QStringLiteral("not a regular file")
+                                                                                              : QStringLiteral("missing"));
         entry.files.append(kept);
     }
     return entry;
@@ -73,7 +83,7 @@ std::optional<HistoryEntry> readEntry(const QString& folder, int number) {
 QByteArray entryJson(const HistoryEntry& entry) {
     QJsonArray files;
     for (const KeptFile& file : entry.files)
-        files.append(QJsonObject{{"name", file.name}, {"existed", file.bytes.has_value()}});
+        files.append(QJsonObject{{"name", file.name}, {"existed", file.existed}});
     return QJsonDocument(QJsonObject{{"when", entry.when.toString(Qt::ISODateWithMs)},
                                      {"program", entry.program},
                                      {"what", entry.what},
@@ -101,6 +111,11 @@ void removeStaged(const QString& history) {
     SyncFolder(history);
 }
 
+void removePartials(const QString& history) {
+    for (const QString& name : QDir(history).entryList(QDir::Dirs | QDir::NoDotAndDotDot | QDir::Hidden))
+        if (name.startsWith(kPartialPrefix)) QDir(history + QLatin1Char('/') + name).removeRecursively();
+}
+
 } // namespace
 
 QString HistoryFolder(const QString& nativeIni) {
@@ -112,10 +127,30 @@ QList<HistoryEntry> ReadHistory(const QString& nativeIni) {
     if (nativeIni.isEmpty()) return entries; // a Brimo.ini that names no folder here
     const QString history = HistoryFolder(nativeIni);
     for (const QString& name : QDir(history).entryList(QDir::Dirs | QDir::NoDotAndDotDot, QDir::Name))
-        if (const std::optional<int> number = numberOf(name))
-            if (std::optional<HistoryEntry> entry = readEntry(history + QLatin1Char('/') + name, *number))
-                entries.append(*entry);
+        if (const std::optional<int> number = numberOf(name)) entries.append(readRecord(history + QLatin1Char('/') + name, *number));
     return entries;
+}
+
+std::optional<HistoryEntry> ReadHistoryEntry(const QString& nativeIni, int number, QString* error) {
+    const QList<HistoryEntry> history = ReadHistory(nativeIni);
+    const auto found = std::find_if(history.rbegin(), history.rend(), [&](const HistoryEntry& e) { return number == 0 || e.number == number; });
+    if (found == history.rend()) {
+        *error = number ? QStringLiteral("no entry %1").arg(number) : QStringLiteral("no entry");
+        return std::nullopt;
+    }
+    HistoryEntry entry = *found;
+    const QString folder = entryFolder(HistoryFolder(nativeIni), entry.number) + QLatin1Char('/');
+    for (KeptFile& file : entry.files) {
+        if (!entry.damaged.isEmpty()) break;
+        QString why;
+        if (file.existed && !(file.bytes = ReadWholeFile(folder + file.name, &why, false)))
+            entry.damaged = QStringLiteral("%1: %2").arg(file.name, why);
+    }
+    if (!entry.damaged.isEmpty()) {
+        *error = QStringLiteral("entry %1 is damaged (%2)").arg(entry.number).arg(entry.damaged);
+        return std::nullopt;
+    }
+    return entry;
 }
 
 bool StageHistoryEntry(const QString& nativeIni, const HistoryEntry& entry, QString* error) {
@@ -124,8 +159,7 @@ bool StageHistoryEntry(const QString& nativeIni, const HistoryEntry& entry, QStr
         *error = QStringLiteral("%1: cannot be created").arg(history);
         return false;
     }
-    for (const QString& name : QDir(history).entryList(QDir::Dirs | QDir::NoDotAndDotDot | QDir::Hidden))
-        if (name.startsWith(kPartialPrefix)) QDir(history + QLatin1Char('/') + name).removeRecursively();
+    removePartials(history);
     removeStaged(history);
 
     const QString partial = partialFolder(history);
@@ -136,7 +170,7 @@ bool StageHistoryEntry(const QString& nativeIni, const HistoryEntry& entry, QStr
     bool written = WriteWholeFile(partial + QLatin1Char('/') + kEntryFile, entryJson(entry), error);
     const QString folder = QFileInfo(nativeIni).absolutePath() + QLatin1Char('/');
     for (const KeptFile& file : entry.files)
-        if (written && file.bytes)
+        if (written && file.existed && file.bytes)
             written = KeepFileAs(folder + file.name, *file.bytes, partial + QLatin1Char('/') + file.name, error);
     const QString staged = history + QLatin1Char('/') + kStaged;
     if (written && (!SyncFolder(partial) || !renameFolder(partial, staged, error))) written = false;
@@ -173,6 +207,12 @@ void DropStagedHistoryEntry(const QString& nativeIni) {
     const QString history = HistoryFolder(nativeIni);
     removeStaged(history);
     QDir().rmdir(history); // when it holds nothing else
+}
+
+void RecoverHistory(const QString& nativeIni, bool tookEffect) {
+    removePartials(HistoryFolder(nativeIni));
+    if (tookEffect) KeepStagedHistoryEntry(nativeIni);
+    else DropStagedHistoryEntry(nativeIni);
 }
 
 QString CommitProgramName() {

@@ -11,8 +11,9 @@
 // (or the recovery after a kill has finished it) the staged entry is renamed
 // to its number, and a commit that failed or was undone drops it. So an
 // entry under a number is whole and stands for a commit that took effect; a
-// temporary folder that a kill left is never read, and the next record
-// removes it. Every function here runs under the lock of the user's folder.
+// temporary folder that a kill left is never read, and the next start's
+// recovery removes it. Every function here runs under the lock of the user's
+// folder.
 
 #include <QByteArray>
 #include <QDateTime>
@@ -26,11 +27,11 @@ namespace brimo {
 
 inline constexpr int kHistoryLength = 20;
 
-// A file of the user's folder, by its name there, as it was before a commit;
-// no bytes when it did not exist.
+// A file of the user's folder, by its name there, as it was before a commit.
 struct KeptFile {
     QString name;
-    std::optional<QByteArray> bytes;
+    bool existed = false;
+    std::optional<QByteArray> bytes; // only where read, and only when it existed
 };
 
 struct HistoryEntry {
@@ -40,13 +41,20 @@ struct HistoryEntry {
     QString what;    // "OK", "set", "apply", "restore 3"
     QStringList keys; // "Section/key" of each value that the commit changed
     QList<KeptFile> files; // the files as they were before the commit
+    QString damaged;       // why the entry cannot be brought back; empty when whole
 };
 
 // The folder of the history of the Brimo.ini at `nativeIni`.
 QString HistoryFolder(const QString& nativeIni);
 
-// The whole entries, oldest first.
+// The entries, oldest first, as their records tell them, without the bytes
+// of their files; an entry that is not whole is there with the reason.
 QList<HistoryEntry> ReadHistory(const QString& nativeIni);
+
+// Entry `number` (0: the last one) with the bytes of its files, each a
+// regular file of the entry (a link there is not followed). Nothing, with
+// `error`, when there is no such entry or it is damaged.
+std::optional<HistoryEntry> ReadHistoryEntry(const QString& nativeIni, int number, QString* error);
 
 // Writes the entry that a commit is about to make, whole, as the staged
 // entry of the folder (one at most; an older one is replaced). False, with
@@ -55,11 +63,17 @@ bool StageHistoryEntry(const QString& nativeIni, const HistoryEntry& entry, QStr
 
 // The commit took effect: the staged entry takes the next number, and the
 // oldest beyond kHistoryLength go. Gives the number, or nothing when there
-// is no staged entry.
+// is no staged entry. The commit calls it before it removes its journal, so
+// that a kill in between leaves the recovery to call it again.
 std::optional<int> KeepStagedHistoryEntry(const QString& nativeIni);
 
 // The commit did not take effect: the staged entry goes.
 void DropStagedHistoryEntry(const QString& nativeIni);
+
+// The start's part, once the recovery has finished (`tookEffect`) or undone
+// a commit that a kill cut off: its staged entry kept or dropped, and the
+// temporary folders of entries that a kill left in the middle removed.
+void RecoverHistory(const QString& nativeIni, bool tookEffect);
 
 // The name under which this process records its commits: the name of its
 // program file.

@@ -91,35 +91,38 @@ std::optional<UnwritableField> FindUnwritableQuote(const GeneralControlState& st
     return std::nullopt;
 }
 
-GeneralControlState MergeStoredChanges(const GeneralEdit& edit, const GeneralVariables& storedNow) {
+GeneralEdit MergeStoredChanges(const GeneralEdit& edit, const GeneralVariables& storedNow) {
     const GeneralControlState before = LoadedControlState(edit.loadedFrom);
     const GeneralControlState after = LoadedControlState(storedNow);
-    GeneralControlState merged = edit.edited;
+    GeneralEdit merged{storedNow, edit.loaded, edit.edited};
     for (const CommitSource& source : kGeneralCommitSources)
-        if (held(before, source) != held(after, source) && held(edit.edited, source) == held(edit.loaded, source))
-            takeControl(merged, after, source);
+        if (held(before, source) != held(after, source) && held(edit.edited, source) == held(edit.loaded, source)) {
+            takeControl(merged.edited, after, source);
+            takeControl(merged.loaded, after, source);
+        }
     return merged;
 }
 
 PlannedGeneralCommit PlanGeneralCommit(CommitPlan& plan, const InstallInfo& info, const GeneralEdit& edit) {
     GeneralVariables storedNow;
     LoadGeneralVariables(plan.ini(), storedNow);
-    const GeneralControlState merged = MergeStoredChanges(edit, storedNow);
-    if (std::optional<UnwritableField> field = FindUnwritableQuote(merged)) return {{}, field};
-    const QList<CommittedRow> rows = ComposeGeneralCommit(merged);
+    const GeneralEdit merged = MergeStoredChanges(edit, storedNow);
+    if (std::optional<UnwritableField> field = FindUnwritableQuote(merged.edited)) return {{}, field, merged};
+    const QList<CommittedRow> rows = ComposeGeneralCommit(merged.edited);
     plan.add(GeneLispPath(info), QLatin1String(kGeneralSection), rows);
-    return {rows, std::nullopt};
+    return {rows, std::nullopt, merged};
 }
 
 GeneralCommitOutcome CommitGeneral(const InstallInfo& info, const GeneralEdit& edit) {
     const UserFolderLock lock(info.prefix, BrimoIniPath(info));
     CommitPlan plan(lock);
     GeneralCommitOutcome outcome;
-    if ((outcome.unwritable = PlanGeneralCommit(plan, info, edit).unwritable)) {
-        outcome.ok = false;
-        return outcome;
-    }
-    static_cast<CommitOutcome&>(outcome) = plan.write();
+    const PlannedGeneralCommit planned = PlanGeneralCommit(plan, info, edit);
+    static_cast<CommitOutcome&>(outcome) = planned.unwritable ? CommitOutcome{false} : plan.write();
+    outcome.unwritable = planned.unwritable;
+    // Brimo.ini unread (a lock not had, a file that cannot be read): the
+    // merge knew nothing of what is stored now.
+    if (!plan.readFailed()) outcome.merged = planned.merged;
     return outcome;
 }
 

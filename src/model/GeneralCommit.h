@@ -144,15 +144,20 @@ struct GeneralEdit {
 // What OK writes when another program may have written Brimo.ini since the
 // dialog loaded it: a control whose stored value changed meanwhile, and that
 // the user left as it was loaded, takes what the dialog would load now; every
-// other control keeps what it holds. Where nothing changed on the disk, this
-// is the controls as they stand.
-GeneralControlState MergeStoredChanges(const GeneralEdit& edit, const GeneralVariables& storedNow);
+// other control keeps what it holds. Where nothing changed on the disk, the
+// edited controls are the controls as they stand. The edit given back starts
+// from the values stored now, and counts each control that took one as loaded
+// with it, so that a dialog that shows it and stays open merges anew at its
+// next OK. `loadedFrom` is what Brimo.ini held when the dialog loaded, never
+// the values in memory that the language switch changes.
+GeneralEdit MergeStoredChanges(const GeneralEdit& edit, const GeneralVariables& storedNow);
 
 // What the general commit adds to a plan: its rows, or the field that makes
-// OK refuse it (and nothing added).
+// OK refuse it (and nothing added); and the merged edit.
 struct PlannedGeneralCommit {
     QList<CommittedRow> rows;
     std::optional<UnwritableField> unwritable;
+    GeneralEdit merged;
 };
 
 // Adds the general dialog's OK to `plan`, from Brimo.ini as the plan read it:
@@ -162,6 +167,7 @@ PlannedGeneralCommit PlanGeneralCommit(CommitPlan& plan, const InstallInfo& info
 
 struct GeneralCommitOutcome : CommitOutcome {
     std::optional<UnwritableField> unwritable; // refused before anything was written
+    std::optional<GeneralEdit> merged; // what the controls become, where Brimo.ini could be read
 };
 
 // The OK of the general dialog: under the lock of the user's folder,

@@ -4,11 +4,13 @@
 #include "platform/Cp1252.h"
 #include "platform/WindowsPaths.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
 #include <algorithm>
 #include <cstdio>
+#include <cstdlib>
 
 namespace brimo {
 
@@ -18,8 +20,28 @@ namespace {
 QString journalBeside(const QString& nativeIni) {
     return QFileInfo(nativeIni).absolutePath() + QStringLiteral("/Brimo.commit-journal");
 }
-QString lockBeside(const QString& nativeIni) {
-    return nativeIni.isEmpty() ? QString() : nativeIni + QStringLiteral(".lock");
+// The lock of a folder, by one name in every folder, so that two prefixes
+// whose links lead into one folder take the same lock there.
+QString lockIn(const QString& folder) { return folder + QStringLiteral("/Brimo.ini.lock"); }
+
+// The folders whose files a commit or a recovery in the folder of Brimo.ini
+// touches: that folder, and the folder of each link's target; sorted, each
+// once, as the system spells them.
+QStringList foldersToLock(const QString& nativeIni) {
+    const auto spelled = [](const QString& folder) {
+        const QString canonical = QFileInfo(folder).canonicalFilePath();
+        return canonical.isEmpty() ? QDir::cleanPath(folder) : canonical;
+    };
+    const QString folder = QFileInfo(nativeIni).absolutePath();
+    QStringList folders{spelled(folder)};
+    const auto all = QDir::Files | QDir::System | QDir::Hidden;
+    for (const QFileInfo& link : QDir(folder).entryInfoList(all))
+        if (link.isSymLink())
+            if (const std::optional<QString> target = FollowLinks(link.filePath()))
+                folders.append(spelled(QFileInfo(*target).absolutePath()));
+    folders.sort();
+    folders.removeDuplicates();
+    return folders;
 }
 
 // Records the files as they stand in the history, then writes them all
@@ -32,20 +54,24 @@ CommitOutcome writeWithHistory(const QString& nativeIni, const QList<FileToWrite
     for (const FileToWrite& file : planned) {
         const std::optional<QByteArray> before = ReadWholeFile(file.nativePath);
         changes = changes || before != file.bytes;
-        entry.files.append({QFileInfo(file.nativePath).fileName(), before});
+        entry.files.append({QFileInfo(file.nativePath).fileName(), before.has_value(), before});
     }
     changes = changes && !nativeIni.isEmpty(); // a Brimo.ini that names no folder here has no history
     QString historyError;
     const bool staged = changes && StageHistoryEntry(nativeIni, entry, &historyError);
     QString failed, reason;
-    if (!WriteFilesTogether(planned, journalBeside(nativeIni), &failed, &reason)) {
+    // The entry takes its number while the journal still stands: a kill
+    // before the journal goes leaves the numbering to the next start.
+    const auto keepEntry = [&] {
+        if (staged) KeepStagedHistoryEntry(nativeIni);
+    };
+    if (!WriteFilesTogether(planned, journalBeside(nativeIni), &failed, &reason, keepEntry)) {
         if (staged) DropStagedHistoryEntry(nativeIni);
         return {false, failed, reason};
     }
-    if (staged) KeepStagedHistoryEntry(nativeIni);
     // The commit itself says why the folder cannot be written; a history
     // that alone cannot be kept does not stop it.
-    else if (changes)
+    if (changes && !staged)
         std::fprintf(stderr, "Brimo: the history of this commit is not kept: %s\n", historyError.toLocal8Bit().constData());
     return {};
 }
@@ -53,24 +79,50 @@ CommitOutcome writeWithHistory(const QString& nativeIni, const QList<FileToWrite
 } // namespace
 
 UserFolderLock::UserFolderLock(const WinePrefix& prefix, const QString& iniPath)
-    : prefix_(prefix), iniPath_(iniPath), nativeIni_(ToNativePath(prefix, iniPath)), lock_(lockBeside(nativeIni_), kUserFolderLockWait) {
-    if (nativeIni_.isEmpty()) return; // a path that names no folder here
-    if (busy()) {
-        std::fprintf(stderr, "Brimo: %s: %s\n", QFile::encodeName(nativeIni_).constData(),
-                     lock_.why().toLocal8Bit().constData());
+    : prefix_(prefix), iniPath_(iniPath), nativeIni_(ToNativePath(prefix, iniPath)),
+      owner_(prefix.folder, EXIT_FAILURE) {
+    if (!owner_.error().isEmpty()) {
+        std::fprintf(stderr, "Brimo: %s: %s\n", QFile::encodeName(prefix.folder).constData(), owner_.error().toLocal8Bit().constData());
+        return;
+    }
+    const QStringList folders = nativeIni_.isEmpty() ? QStringList{QString()} : foldersToLock(nativeIni_);
+    for (const QString& folder : folders) {
+        locks_.push_back(std::make_unique<FolderLock>(folder.isEmpty() ? QString() : lockIn(folder), kUserFolderLockWait));
+        if (locks_.back()->state() != FolderLock::State::Held) break;
+    }
+    if (state() != FolderLock::State::Held) {
+        if (state() != FolderLock::State::NoFolder)
+            std::fprintf(stderr, "Brimo: %s: %s\n", QFile::encodeName(nativeIni_).constData(),
+                         failure().reason.toLocal8Bit().constData());
         return;
     }
     recovery_ = RecoverFilesTogether(journalBeside(nativeIni_));
     // The entry that a commit cut off had staged counts once that commit
     // has been finished, and goes when it has been undone.
-    if (recovery_ == Recovery::RolledForward) KeepStagedHistoryEntry(nativeIni_);
-    else if (recovery_ != Recovery::Failed) DropStagedHistoryEntry(nativeIni_);
+    if (recovery_ != Recovery::Failed) RecoverHistory(nativeIni_, recovery_ == Recovery::RolledForward);
+}
+
+FolderLock::State UserFolderLock::state() const {
+    if (locks_.empty()) return FolderLock::State::Unavailable; // not even its owner's rights
+    for (const auto& lock : locks_)
+        if (lock->state() != FolderLock::State::Held) return lock->state();
+    return FolderLock::State::Held;
+}
+
+CommitOutcome UserFolderLock::failure() const {
+    if (locks_.empty()) return {false, iniPath_, owner_.error()};
+    for (const auto& lock : locks_)
+        if (lock->state() != FolderLock::State::Held)
+            return {false, iniPath_, lock->why(), lock->state() == FolderLock::State::Busy};
+    return {};
 }
 
 CommitPlan::CommitPlan(const UserFolderLock& lock)
     : prefix_(lock.prefix()), iniPath_(lock.iniPath()), nativeIni_(ToNativePath(prefix_, lock.iniPath())) {
-    if (lock.busy()) {
-        readFailure_ = lock.busyOutcome();
+    // Nothing is written without every lock.
+    if (lock.state() != FolderLock::State::Held) {
+        readFailure_ = lock.failure();
+        noFolder_ = lock.state() == FolderLock::State::NoFolder;
         return;
     }
     if (!QFileInfo::exists(nativeIni_)) return;
@@ -111,6 +163,7 @@ QStringList CommitPlan::changedFiles() const {
 }
 
 CommitOutcome CommitPlan::write() const {
+    if (noFolder_) return {false, files().first().windowsPath, readFailure_.reason};
     if (!readFailure_.ok) return readFailure_;
     QList<FileToWrite> planned;
     for (const File& file : files()) planned.append(file.planned);
@@ -129,14 +182,11 @@ CommitOutcome CommitVariables(const WinePrefix& prefix, const QString& lispPath,
 }
 
 CommitOutcome RestoreHistoryEntry(const UserFolderLock& lock, int number, HistoryEntry* restored) {
-    if (lock.busy()) return lock.busyOutcome();
+    if (lock.state() != FolderLock::State::Held) return lock.failure();
     const QString nativeIni = lock.nativeIniPath();
-    const QList<HistoryEntry> history = ReadHistory(nativeIni);
-    const auto entry = std::find_if(history.rbegin(), history.rend(),
-                                    [&](const HistoryEntry& e) { return number == 0 || e.number == number; });
-    if (entry == history.rend())
-        return {false, HistoryFolder(nativeIni),
-                number ? QStringLiteral("no entry %1").arg(number) : QStringLiteral("no entry")};
+    QString error;
+    const std::optional<HistoryEntry> entry = ReadHistoryEntry(nativeIni, number, &error);
+    if (!entry) return {false, HistoryFolder(nativeIni), error};
     if (restored) *restored = *entry;
     // Each file gets its bytes back; one that did not exist before that
     // commit goes.

@@ -14,12 +14,15 @@
 #include "model/InstallInfo.h"
 #include "platform/FileAccess.h"
 #include "platform/FolderLock.h"
+#include "platform/PrefixOwner.h"
 #include "platform/ProfileDocument.h"
 
 #include <QList>
 #include <QString>
 
 #include <chrono>
+#include <memory>
+#include <vector>
 
 namespace brimo {
 
@@ -39,9 +42,15 @@ struct CommitOutcome {
 // How long a writer waits for another program's commit to end.
 inline constexpr std::chrono::seconds kUserFolderLockWait{5};
 
-// The lock of the folder of Brimo.ini, held from its construction to its
-// end. Once it is held, a commit that a kill cut off in that folder has been
-// finished or undone, so that what is read next is a whole pair.
+// The lock of the folder of Brimo.ini, and of every folder that a link
+// there leads to (where a commit stages and replaces the link's file), held
+// from its construction to its end; two prefixes that share a file through a
+// link are so two writers of one folder. The folders are locked in one order,
+// their paths sorted, so that two writers never wait for each other. Once
+// every lock is held, a commit that a kill cut off in that folder has been
+// finished or undone, so that what is read next is a whole pair. Run as
+// root, it acts as the owner of the prefix meanwhile, so that every file it
+// writes keeps its owner.
 class UserFolderLock {
 public:
     UserFolderLock(const WinePrefix& prefix, const QString& iniPath);
@@ -49,16 +58,20 @@ public:
     const WinePrefix& prefix() const { return prefix_; }
     const QString& iniPath() const { return iniPath_; }
     const QString& nativeIniPath() const { return nativeIni_; } // empty when it names no folder here
-    // Another program kept the lock through the whole wait: nothing may be
+    // Held when every lock is; otherwise the state of the first that is not.
+    FolderLock::State state() const;
+    // Another program kept a lock through the whole wait: nothing may be
     // written, and the outcome says who holds it.
-    bool busy() const { return lock_.state() == FolderLock::State::Busy; }
-    CommitOutcome busyOutcome() const { return {false, iniPath_, lock_.why(), true}; }
+    bool busy() const { return state() == FolderLock::State::Busy; }
+    // Why nothing may be written, when some lock is not held.
+    CommitOutcome failure() const;
     Recovery recovery() const { return recovery_; }
 
 private:
     WinePrefix prefix_;
     QString iniPath_, nativeIni_;
-    FolderLock lock_;
+    ActingAsPrefixOwner owner_; // first made, last undone
+    std::vector<std::unique_ptr<FolderLock>> locks_;
     Recovery recovery_ = Recovery::Nothing;
 };
 
@@ -72,6 +85,8 @@ public:
 
     // Brimo.ini as read.
     const ProfileDocument& ini() const { return ini_; }
+    // Brimo.ini could not be read, or a lock not be had: write() fails.
+    bool readFailed() const { return !readFailure_.ok; }
 
     void add(const QString& lispPath, const QString& section, const QList<CommittedRow>& rows);
 
@@ -95,6 +110,7 @@ private:
     WinePrefix prefix_;
     QString iniPath_, nativeIni_, what_ = QStringLiteral("OK");
     CommitOutcome readFailure_;
+    bool noFolder_ = false; // the folder is missing: the first file is named
     // "section/key" of the stored values that change, then of the keys that
     // the commit adds, for the history.
     QStringList changedKeys_, addedKeys_;

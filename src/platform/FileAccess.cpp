@@ -56,7 +56,7 @@ struct FdCloser {
 
 } // namespace
 
-std::optional<QByteArray> ReadWholeFile(const QString& nativePath, QString* error) {
+std::optional<QByteArray> ReadWholeFile(const QString& nativePath, QString* error, bool followLinks) {
     const auto fail = [error](const QString& why) { return failRead(error, why); };
     const auto kindProblem = [](const struct stat& info) -> QString {
         if (S_ISDIR(info.st_mode)) return QStringLiteral("a folder stands where the file should be");
@@ -69,9 +69,10 @@ std::optional<QByteArray> ReadWholeFile(const QString& nativePath, QString* erro
     // FIFO put in place meanwhile must not hold the program; fstat then tells
     // again what was opened.
     struct stat info {};
-    if (::stat(QFile::encodeName(nativePath).constData(), &info) == 0 && !kindProblem(info).isEmpty())
+    const QByteArray name = QFile::encodeName(nativePath);
+    if ((followLinks ? ::stat(name.constData(), &info) : ::lstat(name.constData(), &info)) == 0 && !kindProblem(info).isEmpty())
         return fail(kindProblem(info));
-    const int fd = ::open(QFile::encodeName(nativePath).constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC);
+    const int fd = ::open(name.constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC | (followLinks ? 0 : O_NOFOLLOW));
     if (fd < 0) return fail(QString::fromLocal8Bit(std::strerror(errno)));
     const FdCloser closer{fd};
     if (::fstat(fd, &info) != 0) return fail(QString::fromLocal8Bit(std::strerror(errno)));
@@ -89,16 +90,21 @@ std::optional<QByteArray> ReadGivenFile(const QString& nativePath, QString* erro
     return readToEnd(fd, 0, error);
 }
 
+QString NoFolderReason() { return QStringLiteral("the path names no folder on this machine"); }
+QString FolderMissingReason(const QString& nativeFolder) {
+    return QStringLiteral("the folder %1 does not exist").arg(nativeFolder);
+}
+
 namespace {
 
 bool folderAndFileWritable(const QString& nativePath, QString* error) {
     if (nativePath.isEmpty()) {
-        if (error) *error = QStringLiteral("the path names no folder on this machine");
+        if (error) *error = NoFolderReason();
         return false;
     }
     const QFileInfo info(nativePath);
     if (!info.absoluteDir().exists()) {
-        if (error) *error = QStringLiteral("the folder %1 does not exist").arg(info.absolutePath());
+        if (error) *error = FolderMissingReason(info.absolutePath());
         return false;
     }
     if (info.isDir()) {
@@ -169,7 +175,7 @@ std::optional<QString> FollowLinks(const QString& nativePath, QString* error) {
 }
 
 bool WriteFilesTogether(const QList<FileToWrite>& files, const QString& journalPath, QString* failedPath,
-                        QString* error) {
+                        QString* error, const std::function<void()>& moved) {
     const QString folder = folderOf(journalPath);
     // Each file as written: the file its links lead to, its staged copy
     // beside it (none for a file that goes), and the old content where a
@@ -250,6 +256,7 @@ bool WriteFilesTogether(const QList<FileToWrite>& files, const QString& journalP
     for (const Move& move : moves)
         if (folderOf(move.target) != folder) SyncFolder(folderOf(move.target));
     SyncFolder(folder);
+    if (moved) moved();
     QFile::remove(journalPath);
     SyncFolder(folder);
     return true;

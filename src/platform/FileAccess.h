@@ -3,6 +3,7 @@
 
 #include <QByteArray>
 #include <QString>
+#include <functional>
 #include <optional>
 
 namespace brimo {
@@ -13,8 +14,9 @@ inline constexpr qint64 kLargestReadFile = qint64(512) << 20;
 
 // The whole file, or nothing with `error` saying why when it is missing,
 // unreadable, larger than kLargestReadFile, or no regular file (a folder, a
-// FIFO, a device, a socket, or a link to one). Never waits for a writer.
-std::optional<QByteArray> ReadWholeFile(const QString& nativePath, QString* error = nullptr);
+// FIFO, a device, a socket, or a link to one; or any link, unless
+// `followLinks`). Never waits for a writer.
+std::optional<QByteArray> ReadWholeFile(const QString& nativePath, QString* error = nullptr, bool followLinks = true);
 
 // A file that the user names on a command line: read as ReadWholeFile reads
 // it, but a pipe too (bash's "<(command)"), waiting for its writer and read to
@@ -37,6 +39,11 @@ std::optional<QString> FollowLinks(const QString& nativePath, QString* error = n
 // copied; a commit replaces a file by a new one and never rewrites the old
 // one), else the bytes written. False, with `error`, when neither works.
 bool KeepFileAs(const QString& source, const QByteArray& bytes, const QString& copy, QString* error = nullptr);
+
+// Why nothing can be written: a Windows path that names no folder here, or
+// a folder that does not exist.
+QString NoFolderReason();
+QString FolderMissingReason(const QString& nativeFolder);
 
 // Removes the file; true too when there was none. errno says why not.
 bool RemoveFile(const QString& nativePath);
@@ -63,9 +70,12 @@ struct FileToWrite {
 // copy: the journal names it alone and it is removed in its turn. Only
 // regular files are replaced or removed. Should a move fail, the files
 // already moved get their old content back. On failure `failedPath` names
-// the file and `error` says why. The caller holds the folder's lock.
+// the file and `error` says why. `moved` runs once every move is done and
+// before the journal goes, so that what it records of the commit is done
+// again by the recovery of a kill in between. The caller holds the folder's
+// lock.
 bool WriteFilesTogether(const QList<FileToWrite>& files, const QString& journalPath, QString* failedPath,
-                        QString* error);
+                        QString* error, const std::function<void()>& moved = {});
 
 enum class Recovery {
     Nothing,       // no journal and no staged file

@@ -1,6 +1,9 @@
 #include "platform/FolderLock.h"
 
+#include "platform/FileAccess.h"
+
 #include <QFile>
+#include <QFileInfo>
 
 #include <cerrno>
 #include <cstring>
@@ -36,23 +39,35 @@ bool stillNamed(int fd, const QByteArray& path) {
            opened.st_ino == named.st_ino;
 }
 
-// The folder is missing or cannot be written: no file there can be written.
-bool folderUnusable(int error) {
-    return error == ENOENT || error == ENOTDIR || error == EACCES || error == EPERM || error == EROFS;
+// Opens the lock file, made if need be. One that this user may not write (a
+// file another user's run left, or a read-only folder) is opened for reading:
+// flock takes either.
+int openLockFile(const QByteArray& path) {
+    constexpr int flags = O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC;
+    const int fd = ::open(path.constData(), O_RDWR | O_CREAT | flags, 0644);
+    if (fd >= 0 || (errno != EACCES && errno != EPERM && errno != EROFS)) return fd;
+    const int error = errno;
+    const int readOnly = ::open(path.constData(), O_RDONLY | flags);
+    if (readOnly < 0 && errno == ENOENT) errno = error; // none to open: the folder refused its making
+    return readOnly;
 }
 
 } // namespace
 
 FolderLock::FolderLock(const QString& lockPath, std::chrono::milliseconds wait) : path_(lockPath) {
-    if (lockPath.isEmpty()) return; // no folder: nothing to keep apart
+    if (lockPath.isEmpty()) { // a path that names no folder here
+        why_ = NoFolderReason();
+        return;
+    }
     const QByteArray path = QFile::encodeName(lockPath);
     const auto deadline = std::chrono::steady_clock::now() + wait;
     for (;;) {
-        const int fd = ::open(path.constData(), O_RDWR | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, 0644);
+        const int fd = openLockFile(path);
         if (fd < 0) {
             const int error = errno;
-            state_ = folderUnusable(error) ? State::Unavailable : State::Busy;
-            why_ = QStringLiteral("the lock %1 cannot be used: %2").arg(lockPath, describe(error));
+            state_ = error == ENOENT || error == ENOTDIR ? State::NoFolder : State::Unavailable;
+            why_ = state_ == State::NoFolder ? FolderMissingReason(QFileInfo(lockPath).absolutePath())
+                                             : QStringLiteral("the lock %1 cannot be used: %2").arg(lockPath, describe(error));
             return;
         }
         if (::flock(fd, LOCK_EX | LOCK_NB) == 0) {
@@ -70,7 +85,7 @@ FolderLock::FolderLock(const QString& lockPath, std::chrono::milliseconds wait) 
         }
         const int error = errno;
         if (error != EWOULDBLOCK || std::chrono::steady_clock::now() >= deadline) {
-            state_ = State::Busy;
+            state_ = error == EWOULDBLOCK ? State::Busy : State::Unavailable;
             why_ = error == EWOULDBLOCK ? holderOf(fd) : QStringLiteral("the lock %1 cannot be taken: %2").arg(lockPath, describe(error));
             ::close(fd);
             return;

@@ -16,8 +16,9 @@ public:
     enum class State {
         Held,        // this object holds the lock
         Busy,        // another process held it through the whole wait
-        Unavailable, // the lock file cannot be made: the folder is missing or
-                     // cannot be written, so nobody writes its files either
+        NoFolder,    // the folder is missing: nobody writes files there
+        Unavailable, // the lock file can be neither made nor opened: nothing
+                     // may be written, since others would not be kept out
     };
 
     // Takes the lock of `lockPath`, trying again until `wait` has passed.
@@ -27,14 +28,14 @@ public:
     FolderLock& operator=(const FolderLock&) = delete;
 
     State state() const { return state_; }
-    // For Busy: who holds it ("process 1234 (brimo-settings)"); for
-    // Unavailable: why the file cannot be made.
+    // For Busy: who holds it ("process 1234 (brimo-settings)"); otherwise
+    // why the lock cannot be had.
     const QString& why() const { return why_; }
 
 private:
     QString path_;
     int fd_ = -1;
-    State state_ = State::Unavailable;
+    State state_ = State::NoFolder;
     QString why_;
 };
 

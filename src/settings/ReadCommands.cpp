@@ -133,7 +133,8 @@ RunResult RunHistory(const Options& options) {
         if (!options.json) {
             if (options.prefixes.size() > 1) Print(QStringLiteral("# %1\n").arg(prefix));
             for (const HistoryEntry& entry : history)
-                Print(QStringLiteral("%1\t%2\t%3\t%4\t%5\n")
+                Print(!entry.damaged.isEmpty() ? QStringLiteral("%1\tdamaged\t%2\n").arg(entry.number).arg(entry.damaged)
+                                              : QStringLiteral("%1\t%2\t%3\t%4\t%5\n")
                           .arg(entry.number)
                           .arg(entry.when.toLocalTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")), entry.program,
                                entry.what, shortList(entry.keys)));
@@ -143,12 +144,14 @@ RunResult RunHistory(const Options& options) {
         for (const HistoryEntry& entry : history) {
             QStringList files;
             for (const KeptFile& file : entry.files) files.append(file.name);
-            entries.append(QJsonObject{{"number", entry.number},
-                                       {"when", entry.when.toString(Qt::ISODate)},
-                                       {"program", entry.program},
-                                       {"what", entry.what},
-                                       {"keys", QJsonArray::fromStringList(entry.keys)},
-                                       {"files", QJsonArray::fromStringList(files)}});
+            QJsonObject json{{"number", entry.number},
+                             {"when", entry.when.toString(Qt::ISODate)},
+                             {"program", entry.program},
+                             {"what", entry.what},
+                             {"keys", QJsonArray::fromStringList(entry.keys)},
+                             {"files", QJsonArray::fromStringList(files)}};
+            if (!entry.damaged.isEmpty()) json.insert(QStringLiteral("damaged"), entry.damaged);
+            entries.append(json);
         }
         json.append(QJsonObject{{"prefix", prefix}, {"user", user.info().actuel}, {"entries", entries}});
         return true;

@@ -123,8 +123,8 @@ void printText(const PrefixReport& report, bool check) {
 PrefixReport commitOnPrefix(const Options& options, const SectionEdits& edits, const WinePrefix& prefix) {
     const UserFiles user(prefix, options.user);
     PrefixReport report{prefix.folder, user.info().actuel, false, {}, {}, {}};
-    if (user.lock().busy()) {
-        report.error = QStringLiteral("%1: %2").arg(user.lock().iniPath(), user.lock().busyOutcome().reason);
+    if (const FolderLock::State state = user.lock().state(); state == FolderLock::State::Busy || state == FolderLock::State::Unavailable) {
+        report.error = QStringLiteral("%1: %2").arg(user.lock().iniPath(), user.lock().failure().reason);
         return report;
     }
     CommitPlan plan(user.lock());
@@ -203,12 +203,10 @@ PrefixReport restoreOnPrefix(const Options& options, int number, const WinePrefi
     const UserFiles user(prefix, options.user);
     PrefixReport report{prefix.folder, user.info().actuel, false, {}, {}, {}};
     const QString nativeIni = user.lock().nativeIniPath();
-    const QList<HistoryEntry> history = ReadHistory(nativeIni);
-    const HistoryEntry* entry = nullptr;
-    for (const HistoryEntry& each : history)
-        if (number == 0 || each.number == number) entry = &each;
+    QString error;
+    const std::optional<HistoryEntry> entry = ReadHistoryEntry(nativeIni, number, &error);
     if (!entry) {
-        report.error = QStringLiteral("%1: no history entry%2").arg(HistoryFolder(nativeIni), number ? QStringLiteral(" %1").arg(number) : QString());
+        report.error = QStringLiteral("%1: %2").arg(HistoryFolder(nativeIni), error);
         return report;
     }
     const QString folder = QFileInfo(nativeIni).absolutePath() + QLatin1Char('/');

@@ -32,7 +32,7 @@ struct Form {
 const Form kForms[] = {
     {"chooser.txt", [](FormServices& s) { return s.show(new CChoixForm(s)); }},
     {"general.txt",
-     [](FormServices& s) { return s.show(new CGeneralForm(s, s.info, s.variables, s.legends, s)); }},
+     [](FormServices& s) { return s.show(new CGeneralForm(s, s.info, s.variables, s.variables, s.legends, s)); }},
     {"slope.txt", [](FormServices& s) { return s.show(new CParamRechTalus(s, s.info, s.legends)); }},
     {"about.txt", [](FormServices& s) { return s.show(new CAboutForm(s.info, s.legends)); }},
     {"drawing.txt", [](FormServices& s) { return s.show(new CVarGlobale); }},

@@ -43,8 +43,9 @@ Qt::CheckState checkStateOf(int value) {
 } // namespace
 
 CGeneralForm::CGeneralForm(Navigator& navigator, const InstallInfo& info, GeneralVariables& variables,
-                           LegendTable& legends, LegendFailureQuestion& legendQuestion)
-    : navigator_(navigator), info_(info), variables_(variables), legends_(legends), legendQuestion_(legendQuestion) {
+                           const GeneralVariables& stored, LegendTable& legends, LegendFailureQuestion& legendQuestion)
+    : navigator_(navigator), info_(info), variables_(variables), stored_(stored), legends_(legends),
+      legendQuestion_(legendQuestion) {
     setObjectName(QStringLiteral("CGeneralForm"));
     setWindowTitle(QStringLiteral("Général"));
     setWindowIcon(GeneralWindowIcon());
@@ -119,7 +120,7 @@ void CGeneralForm::Form_Load() {
     CentreOnScreen(this);
     // What OK compares with, to keep what another program writes meanwhile
     // in the controls that the user leaves alone.
-    loadedFrom_ = variables_;
+    loadedFrom_ = stored_;
     loaded_ = controlState();
 }
 
@@ -141,6 +142,13 @@ void CGeneralForm::Option5_Click(int index) {
 
 void CGeneralForm::cmdOK_Click() {
     const GeneralCommitOutcome outcome = CommitGeneral(info_, {loadedFrom_, loaded_, controlState()});
+    // The dialog stays open: what the merge took from the file is shown, so
+    // that a refusal points at what the user sees.
+    if (!outcome.ok && outcome.merged) {
+        showControlState(outcome.merged->edited);
+        loadedFrom_ = outcome.merged->loadedFrom;
+        loaded_ = outcome.merged->loaded;
+    }
     if (outcome.unwritable) {
         refuseUnwritableQuote(*outcome.unwritable);
         return;
@@ -205,6 +213,30 @@ GeneralControlState CGeneralForm::controlState() const {
         }
     }
     return state;
+}
+
+void CGeneralForm::showControlState(const GeneralControlState& state) {
+    for (const CommitSource& source : kGeneralCommitSources) {
+        const QString name = QLatin1String(source.control);
+        switch (source.read) {
+        case ControlRead::Text:
+            if (fields_.value(name)->text() != state.texts.value(name)) fields_.value(name)->setText(state.texts.value(name));
+            break;
+        case ControlRead::State: checkBoxes_.value(name)->setCheckState(checkStateOf(state.checkStates.value(name))); break;
+        case ControlRead::Options:
+            for (const ChoiceTest& test : kGeneralChoiceTests) {
+                QRadioButton* button = options_.value(QLatin1String(test.button));
+                const bool selected = state.selectedOptions.contains(QLatin1String(test.button));
+                if (test.row != source.row || button->isChecked() == selected) continue;
+                // A group may end with no button selected, as a stored value
+                // outside its choices loads it.
+                button->setAutoExclusive(selected);
+                button->setChecked(selected);
+                button->setAutoExclusive(true);
+            }
+            break;
+        }
+    }
 }
 
 // Nothing is written: the field is shown with its edits, ready to be put right.

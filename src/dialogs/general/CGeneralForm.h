@@ -3,7 +3,7 @@
 // from GeneralVariables at load, worded from the legends, written to
 // Brimo_Gene.lsp and Brimo.ini by OK. It is handed the installation
 // settings, the general variables it loads (and whose x_lang the language
-// switch changes), the legends it reads and reloads with the question of a
+// switch changes), the same as Brimo.ini held them, the legends it reads and reloads with the question of a
 // failed load, and the navigator for the other forms and the end.
 
 #include "dialogs/general/GeneralCaptions.h"
@@ -28,8 +28,8 @@ struct ProgramLocation;
 class CGeneralForm : public BrimoForm {
     Q_OBJECT
 public:
-    CGeneralForm(Navigator& navigator, const InstallInfo& info, GeneralVariables& variables, LegendTable& legends,
-                 LegendFailureQuestion& legendQuestion);
+    CGeneralForm(Navigator& navigator, const InstallInfo& info, GeneralVariables& variables,
+                 const GeneralVariables& stored, LegendTable& legends, LegendFailureQuestion& legendQuestion);
 
     void Form_Load() override;
 
@@ -47,12 +47,14 @@ private:
     void setCaptions(std::span<const CaptionRow> rows);
     void sweepTabs(std::span<const SweepStep> steps);
     GeneralControlState controlState() const;
+    void showControlState(const GeneralControlState& state);
     void refuseUnwritableQuote(const UnwritableField& field);
     void showTabOf(QWidget* control);
 
     Navigator& navigator_;
     const InstallInfo& info_;
     GeneralVariables& variables_;
+    const GeneralVariables& stored_;
     LegendTable& legends_;
     LegendFailureQuestion& legendQuestion_;
     RefusalGuard refusalGuard_;

@@ -40,7 +40,7 @@ CGeneralForm* GeneralFormTest::open() {
 }
 
 CGeneralForm* GeneralFormTest::reopen() {
-    auto* general = new CGeneralForm(*services, services->info, services->variables, services->legends, *services);
+    auto* general = new CGeneralForm(*services, services->info, services->variables, services->variables, services->legends, *services);
     general->messageBoxes().setAnswerer([this](const MessageBoxCall& call) {
         messages.append(call);
         return false;
