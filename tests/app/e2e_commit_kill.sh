@@ -8,13 +8,15 @@
 # Each round starts the program (whose start finishes or undoes the commit
 # that the last kill cut off), checks that Brimo_Talus.lsp and Brimo.ini are
 # both as before that commit or both as it would have left them, byte for
-# byte, with no staged file and no journal beside them, then types a new
+# byte, with no staged file and no journal beside them, and that the history
+# has one more entry, holding the old pair, when the pair is new, and none
+# when it is old, with nothing else in Brimo.history/; then types a new
 # value into Text1, presses Command1 and kills the program after a random
 # delay within the time that one commit takes. Then brimo-settings restore
 # (next to the program in the build, or SETTINGS) is killed likewise, KILLS / 2
 # times: the pair is then as before the restore or as the history entry kept
-# it. After every round, each entry of Brimo.history/ that history would
-# list is whole.
+# it, and the history agrees as above. After every round, each entry of
+# Brimo.history/ is whole.
 source "$(dirname "$0")/../e2e/lib.sh"
 e2e_setup "$1"
 kills=${2:-10}
@@ -48,7 +50,8 @@ new_ini = re.sub(rb'\r\nx_QZ_tal_dh=[^\r]*\r\n', b'\r\nx_QZ_tal_dh=%s\r\n' % val
 open(out + '/new.lsp', 'wb').write(new_lisp)
 open(out + '/new.ini', 'wb').write(new_ini)
 PY
-  cp "$lisp" "$E2E_DIR/old.lsp"; cp "$ini" "$E2E_DIR/old.ini"
+  keep "$lisp" "$E2E_DIR/old.lsp"; keep "$ini" "$E2E_DIR/old.ini"
+  last_before=$(last_entry)
 }
 
 # Starts the program and waits for its window: the start's recovery is done.
@@ -68,15 +71,17 @@ commit_value() {
   sleep 0.2
 }
 
-# Every numbered entry of the history is whole: its record reads, and each
-# file it says existed is there. A temporary folder a kill left is allowed.
+last_entry() { ls "$folder/Brimo.history" 2>/dev/null | grep -x '[0-9]*' | tail -n 1; }
+
+# Every entry of the history is whole: its record reads, and each file it
+# says existed is there; what a kill left of an entry is gone.
 check_history() { # round
   python3 - "$folder/Brimo.history" "$1" <<'PY' || exit 1
 import json, os, sys
 history, round_ = sys.argv[1], sys.argv[2]
 for name in sorted(os.listdir(history)) if os.path.isdir(history) else []:
-    if name.startswith(".partial-"):
-        continue
+    if not (name.isdigit() and len(name) == 6):
+        sys.exit("FAIL: round %s: %s left in the history" % (round_, name))
     entry = json.load(open(os.path.join(history, name, "entry.json")))
     for f in entry["files"]:
         if f["existed"] and not os.path.isfile(os.path.join(history, name, f["name"])):
@@ -89,13 +94,27 @@ keep() { rm -f "$2"; [ ! -e "$1" ] || cp "$1" "$2"; }
 # same FILE COPY: FILE is as keep left COPY.
 same() { if [ -e "$2" ]; then cmp -s "$1" "$2"; else [ ! -e "$1" ]; fi; }
 
+# A new pair has its entry, which holds the old pair; an old pair has none.
+check_entry() { # round new|old
+  local last entry
+  last=$(last_entry)
+  if [ "$2" = old ]; then
+    [ "$last" = "$last_before" ] || { echo "FAIL: round $1: entry $last of a commit that did not happen"; exit 1; }
+    return
+  fi
+  [ "$((10#$last))" = "$((10#${last_before:-0} + 1))" ] || { echo "FAIL: round $1: the commit's entry is missing"; exit 1; }
+  entry=$folder/Brimo.history/$last
+  same "$entry/Brimo_Talus.lsp" "$E2E_DIR/old.lsp" && same "$entry/Brimo.ini" "$E2E_DIR/old.ini" ||
+    { echo "FAIL: round $1: entry $last does not hold the pair before the commit"; exit 1; }
+}
+
 check_pair() { # round
   local left
   check_history "$1"
   left=$(ls -A "$folder" | grep -v -x -e Brimo.ini -e Brimo_Talus.lsp -e Brimo.history || true)
   [ -z "$left" ] || { echo "FAIL: round $1 left: $left"; exit 1; }
-  if same "$lisp" "$E2E_DIR/old.lsp" && same "$ini" "$E2E_DIR/old.ini"; then old=$((old + 1))
-  elif same "$lisp" "$E2E_DIR/new.lsp" && same "$ini" "$E2E_DIR/new.ini"; then new=$((new + 1))
+  if same "$lisp" "$E2E_DIR/old.lsp" && same "$ini" "$E2E_DIR/old.ini"; then old=$((old + 1)); check_entry "$1" old
+  elif same "$lisp" "$E2E_DIR/new.lsp" && same "$ini" "$E2E_DIR/new.ini"; then new=$((new + 1)); check_entry "$1" new
   else
     echo "FAIL: round $1 left a mismatched pair"
     grep -a 'QZ_tal_dh' "$lisp" "$E2E_DIR/old.lsp" "$E2E_DIR/new.lsp"
@@ -170,7 +189,7 @@ restore_ms=$((($(date +%s%N) - start) / 1000000))
 echo "one restore of a 10 MB Brimo.ini: ${restore_ms} ms"
 old=0 new=0 restores=$((kills / 2))
 for round in $(seq 1 "$restores"); do
-  last=$(ls "$folder/Brimo.history" | grep -x '[0-9]*' | tail -n 1)
+  last=$(last_entry) last_before=$(last_entry)
   keep "$lisp" "$E2E_DIR/old.lsp"; keep "$ini" "$E2E_DIR/old.ini"
   keep "$folder/Brimo.history/$last/Brimo_Talus.lsp" "$E2E_DIR/new.lsp"
   keep "$folder/Brimo.history/$last/Brimo.ini" "$E2E_DIR/new.ini"

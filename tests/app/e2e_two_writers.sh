@@ -11,6 +11,11 @@
 # 4. Another process holds the lock: brimo-settings fails naming it, and the
 #    dialog's OK reports it after the wait, changes nothing and stays open;
 #    once the lock is free, OK again writes.
+# 5. As an ordinary user (nobody), with a lock file of mode 0444 owned by
+#    another user (root): the two loops of 1 again, every run succeeds; with
+#    the lock file of mode 0000, set fails naming it and writes nothing.
+# 6. A second prefix whose Brimo.ini is a link to the first one's: a set loop
+#    on each side by side, every run succeeds, both last values stand.
 source "$(dirname "$0")/../e2e/lib.sh"
 e2e_setup "$1"
 settings=$2 rounds=${3:-15}
@@ -40,8 +45,9 @@ now_ms() { date +%s%3N; }
 set_ok() { local s=0; "$settings" set "$@" >/dev/null 2>>"$E2E_DIR/settings.log" || s=$?; [ "$s" -le 1 ]; }
 
 # 1
-writer() { # KEY PREFIX
-  for i in $(seq 1 "$rounds"); do set_ok "$1=$2$i" || echo "$1 round $i failed" >> "$E2E_DIR/failures.log"; done
+writer() { # KEY VALUE-PREFIX [SET-OPTIONS...]
+  local key=$1 base=$2; shift 2
+  for i in $(seq 1 "$rounds"); do set_ok "$@" "$key=$base$i" || echo "$key round $i failed" >> "$E2E_DIR/failures.log"; done
 }
 start=$(now_ms)
 writer x_nom_bureau A & a=$!
@@ -115,4 +121,51 @@ status=$(e2e_wait_exit)
 [ "$status" = 0 ] || fail "OK once the lock was free ended with $status"
 expect_value cadre_layer CALQUE8
 expect_nothing_left
+
+# 5
+if [ "$(id -u)" = 0 ]; then
+  chmod 755 "$E2E_DIR"
+  chown -R nobody:nogroup "$WINEPREFIX"
+  install -m 0444 /dev/null "$lock"
+  settings_as_user() { runuser -u nobody -- "$settings_real" "$@"; }
+  settings_real=$settings settings=settings_as_user
+  writer x_nom_bureau C & a=$!
+  writer x_tel_bureau D & b=$!
+  wait "$a" "$b"
+  [ ! -s "$E2E_DIR/failures.log" ] || fail "beside a lock file of mode 0444: $(cat "$E2E_DIR/failures.log")"
+  expect_value x_nom_bureau "C$rounds"
+  expect_value x_tel_bureau "D$rounds"
+  expect_nothing_left
+  install -m 0000 /dev/null "$lock"
+  cp "$ini" "$E2E_DIR/old.ini"
+  status=0
+  "$settings" set x_lang=ITA 2> "$E2E_DIR/unusable.err" >/dev/null || status=$?
+  [ "$status" = 3 ] && grep -q "the lock $lock cannot be used: Permission denied" "$E2E_DIR/unusable.err" ||
+    fail "set beside a lock file it cannot open: status $status, $(cat "$E2E_DIR/unusable.err")"
+  cmp -s "$ini" "$E2E_DIR/old.ini" || fail "set wrote without the lock"
+  rm "$lock"
+  settings=$settings_real
+  echo "as an ordinary user beside another user's lock file: every run succeeded"
+fi
+
+# 6
+second=$E2E_DIR/second
+mkdir -p "$second/drive_c/windows" "$second/dosdevices"
+ln -s ../drive_c "$second/dosdevices/c:"
+cp "$WINEPREFIX/drive_c/windows/zorel.ini" "$second/drive_c/windows/"
+folder2=$second/drive_c/Zorel/Var/jo
+mkdir -p "$folder2"
+ln -s "$ini" "$folder2/Brimo.ini"
+writer x_nom_bureau E & a=$!
+writer x_tel_bureau F --prefix "$second" & b=$!
+wait "$a" "$b"
+[ ! -s "$E2E_DIR/failures.log" ] || fail "a Brimo.ini shared through a link: $(cat "$E2E_DIR/failures.log")"
+expect_value x_nom_bureau "E$rounds"
+grep -q -a -x "x_tel_bureau=F$rounds"$'\r' "$ini" || fail "Brimo.ini: x_tel_bureau is not F$rounds"
+grep -q -a -F "(setq x_tel_bureau \"F$rounds\")" "$folder2/Brimo_Gene.lsp" || fail "the second Brimo_Gene.lsp: x_tel_bureau is not F$rounds"
+[ -L "$folder2/Brimo.ini" ] || fail "the link was replaced"
+expect_nothing_left
+left=$(ls -A "$folder2" | grep -v -x -e Brimo.ini -e Brimo_Gene.lsp -e Brimo.history || true)
+[ -z "$left" ] || fail "left beside the second prefix's files: $left"
+echo "two prefixes sharing Brimo.ini through a link: every run succeeded"
 echo "PASS"
