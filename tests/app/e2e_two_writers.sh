@@ -14,6 +14,7 @@
 # 5. As an ordinary user (nobody), with a lock file of mode 0444 owned by
 #    another user (root): the two loops of 1 again, every run succeeds; with
 #    the lock file of mode 0000, set fails naming it and writes nothing.
+#    Then the dialog, run as root, commits as the prefix's owner.
 # 6. A second prefix whose Brimo.ini is a link to the first one's: a set loop
 #    on each side by side, every run succeeds, both last values stand.
 source "$(dirname "$0")/../e2e/lib.sh"
@@ -145,6 +146,15 @@ if [ "$(id -u)" = 0 ]; then
   cmp -s "$ini" "$E2E_DIR/old.ini" || fail "set wrote without the lock"
   rm "$lock"
   settings=$settings_real
+  open_dialog
+  e2e_keys Tab
+  e2e_type "CALQUE7"
+  e2e_keys Return
+  status=$(e2e_wait_exit)
+  [ "$status" = 0 ] || fail "the dialog's OK as root ended with $status"
+  expect_value cadre_layer CALQUE7
+  owners=$(stat -c %U "$ini" "$lisp" "$folder/Brimo.history" "$folder"/Brimo.history/* | sort -u)
+  [ "$owners" = nobody ] || fail "the dialog run as root left files owned by $owners"
   echo "as an ordinary user beside another user's lock file: every run succeeded"
 fi
 

@@ -50,6 +50,17 @@ TEST_F(GeneralCommitTest, ADoubleQuoteInALispStringIsRefusedWithEveryEditKept) {
     EXPECT_TRUE(messages[1].text.contains("path_win5"));
     EXPECT_EQ(tabs->currentIndex(), 5);
     EXPECT_TRUE(ends().isEmpty());
+
+    // Another program stores a quote meanwhile in a field the user left
+    // alone: OK shows it there before it refuses it.
+    find<QLineEdit>("Text15")->setText("C:\\ab.exe");
+    writeBrimoIni("[Brimo_Gene]\r\ncadre_layer=Le \"Cadre\"\r\n");
+    find<QPushButton>("cmdOK")->click();
+    ASSERT_EQ(messages.size(), 3);
+    EXPECT_TRUE(messages[2].text.contains("cadre_layer"));
+    EXPECT_EQ(find<QLineEdit>("Val4")->text(), "Le \"Cadre\"");
+    EXPECT_EQ(tabs->currentIndex(), 0);
+    EXPECT_TRUE(ends().isEmpty());
 }
 
 // A commit that cannot write shows one message naming the file and why,
