@@ -9,8 +9,11 @@
 #include <QFileInfo>
 
 #include <algorithm>
+#include <map>
 #include <cstdio>
 #include <cstdlib>
+
+#include <sys/stat.h>
 
 namespace brimo {
 
@@ -25,23 +28,28 @@ QString journalBeside(const QString& nativeIni) {
 QString lockIn(const QString& folder) { return folder + QStringLiteral("/Brimo.ini.lock"); }
 
 // The folders whose files a commit or a recovery in the folder of Brimo.ini
-// touches: that folder, and the folder of each link's target; sorted, each
-// once, as the system spells them.
+// touches: that folder, and the folder of each link's target; each once, in
+// the order of their identity on the disk (device, then inode), which every
+// process sees alike, however it reaches them. A folder that does not exist
+// comes last.
 QStringList foldersToLock(const QString& nativeIni) {
-    const auto spelled = [](const QString& folder) {
-        const QString canonical = QFileInfo(folder).canonicalFilePath();
-        return canonical.isEmpty() ? QDir::cleanPath(folder) : canonical;
-    };
     const QString folder = QFileInfo(nativeIni).absolutePath();
-    QStringList folders{spelled(folder)};
+    QStringList folders{folder};
     const auto all = QDir::Files | QDir::System | QDir::Hidden;
     for (const QFileInfo& link : QDir(folder).entryInfoList(all))
         if (link.isSymLink())
             if (const std::optional<QString> target = FollowLinks(link.filePath()))
-                folders.append(spelled(QFileInfo(*target).absolutePath()));
-    folders.sort();
-    folders.removeDuplicates();
-    return folders;
+                folders.append(QFileInfo(*target).absolutePath());
+    std::map<std::pair<dev_t, ino_t>, QString> byIdentity;
+    QStringList missing;
+    for (const QString& each : folders) {
+        struct stat info {};
+        if (::stat(QFile::encodeName(each).constData(), &info) != 0) missing.append(each);
+        else byIdentity.emplace(std::pair{info.st_dev, info.st_ino}, each);
+    }
+    QStringList ordered;
+    for (const auto& [identity, each] : byIdentity) ordered.append(each);
+    return ordered + missing;
 }
 
 // Records the files as they stand in the history, then writes them all
@@ -82,7 +90,7 @@ UserFolderLock::UserFolderLock(const WinePrefix& prefix, const QString& iniPath)
     : prefix_(prefix), iniPath_(iniPath), nativeIni_(ToNativePath(prefix, iniPath)),
       owner_(prefix.folder, EXIT_FAILURE) {
     if (!owner_.error().isEmpty()) {
-        std::fprintf(stderr, "Brimo: %s: %s\n", QFile::encodeName(prefix.folder).constData(), owner_.error().toLocal8Bit().constData());
+        std::fprintf(stderr, "Brimo: %s: %s\n", prefix.name().toLocal8Bit().constData(), owner_.error().toLocal8Bit().constData());
         return;
     }
     const QStringList folders = nativeIni_.isEmpty() ? QStringList{QString()} : foldersToLock(nativeIni_);

@@ -4,12 +4,72 @@
 #include <QFileInfo>
 #include <QStringList>
 
+#include <algorithm>
+
+#include <fcntl.h>
+
 namespace brimo {
 
 WinePrefix WinePrefix::FromEnvironment() {
-    const QString prefix = qEnvironmentVariable("WINEPREFIX");
-    if (!prefix.isEmpty()) return {prefix};
-    return {qEnvironmentVariable("HOME") + QStringLiteral("/.wine")};
+    const QByteArray prefix = qgetenv("WINEPREFIX");
+    if (!prefix.isEmpty()) return FromText(DecodeNativeText(prefix));
+    return FromText(DecodeNativeText(qgetenv("HOME") + "/.wine"));
+}
+
+namespace {
+
+constexpr char16_t kEscapedByte = 0xDC00;
+bool isEscapedByte(QChar c) { return c.unicode() >= kEscapedByte + 0x80 && c.unicode() <= kEscapedByte + 0xFF; }
+
+// The length of the whole UTF-8 character at the start of `bytes`, or 0:
+// what decodes and encodes back alike (no stray continuation byte, no
+// overlong form, no surrogate).
+qsizetype utf8Length(QByteArrayView bytes) {
+    const auto lead = static_cast<unsigned char>(bytes[0]);
+    const qsizetype length = lead < 0x80 ? 1 : lead >= 0xC2 && lead <= 0xDF ? 2 : (lead & 0xF0) == 0xE0 ? 3 : lead >= 0xF0 && lead <= 0xF4 ? 4 : 0;
+    if (length == 0 || length > bytes.size()) return 0;
+    const QByteArrayView one = bytes.first(length);
+    return QString::fromUtf8(one).toUtf8() == one ? length : 0;
+}
+
+} // namespace
+
+QString DecodeNativeText(QByteArrayView bytes) {
+    QString text;
+    qsizetype plain = 0, i = 0;
+    while (i < bytes.size()) {
+        if (const qsizetype length = utf8Length(bytes.sliced(i))) {
+            i += length;
+            continue;
+        }
+        text += QString::fromUtf8(bytes.sliced(plain, i - plain)) + QChar(kEscapedByte + static_cast<unsigned char>(bytes[i]));
+        plain = ++i;
+    }
+    return text + QString::fromUtf8(bytes.sliced(plain));
+}
+
+QByteArray EncodeNativeText(const QString& text) {
+    QByteArray bytes;
+    qsizetype plain = 0;
+    for (qsizetype i = 0; i <= text.size(); ++i) {
+        if (i < text.size() && !isEscapedByte(text[i])) continue;
+        bytes += text.mid(plain, i - plain).toUtf8();
+        if (i < text.size()) bytes += static_cast<char>(text[i].unicode() - kEscapedByte);
+        plain = i + 1;
+    }
+    return bytes;
+}
+
+WinePrefix WinePrefix::FromText(const QString& text) {
+    if (std::none_of(text.begin(), text.end(), isEscapedByte)) return {text, {}};
+    QString shown;
+    for (const QChar c : text)
+        shown += isEscapedByte(c) ? QStringLiteral("\\x") + QString::number(c.unicode() - kEscapedByte, 16).toUpper() : QString(c);
+    // Kept open for the life of the process: the prefix is a value that any
+    // later step may use.
+    const int fd = ::open(EncodeNativeText(text).constData(), O_PATH | O_DIRECTORY | O_CLOEXEC);
+    if (fd < 0) return {shown, shown}; // no such folder, and messages say so by its shown name
+    return {QStringLiteral("/proc/self/fd/%1").arg(fd), shown};
 }
 
 QString GetWindowsFolder() { return QStringLiteral("C:\\windows"); }

@@ -11,12 +11,28 @@ namespace brimo {
 // a Windows installation (dosdevices/x:). It is handed down as a value, so
 // that one process can work on several prefixes in turn.
 struct WinePrefix {
-    QString folder;
+    QString folder; // the path that reaches it
+    QString shown;  // how messages name it, where that differs
+
+    // How messages name the prefix.
+    QString name() const { return shown.isEmpty() ? folder : shown; }
 
     // $WINEPREFIX, or $HOME/.wine when WINEPREFIX is unset or empty. This is
     // the only place where the program reads its environment.
     static WinePrefix FromEnvironment();
+    // A prefix named by the bytes of a command line or a list, as
+    // DecodeNativeText left them. A folder whose name is no UTF-8 text, which
+    // Qt's file functions cannot spell, is reached through a descriptor that
+    // the process keeps open (/proc/self/fd/N) and shown with its odd bytes
+    // as \xHH.
+    static WinePrefix FromText(const QString& text);
 };
+
+// The bytes of a file name, an argument or a line as text: UTF-8, and each
+// byte that is no part of UTF-8 kept as the code unit 0xDC00 + byte, so that
+// EncodeNativeText gives the bytes back.
+QString DecodeNativeText(QByteArrayView bytes);
+QByteArray EncodeNativeText(const QString& text);
 
 // The Windows folder as a Windows path text, without a trailing backslash
 // ("C:\windows"), the way the platform reports it.

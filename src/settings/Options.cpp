@@ -1,6 +1,7 @@
 #include "settings/Options.h"
 
 #include "platform/FileAccess.h"
+#include "platform/WindowsPaths.h"
 
 #include <QCommandLineParser>
 
@@ -19,7 +20,7 @@ bool readPrefixList(const QString& file, QStringList& prefixes, QString* error) 
         *error = QStringLiteral("--prefixes-from %1: cannot be read").arg(file);
         return false;
     }
-    for (const QString& line : QString::fromUtf8(*bytes).split(QLatin1Char('\n'))) {
+    for (const QString& line : DecodeNativeText(*bytes).split(QLatin1Char('\n'))) {
         const QString prefix = line.trimmed();
         if (!prefix.isEmpty() && !prefix.startsWith(QLatin1Char('#'))) prefixes.append(prefix);
     }

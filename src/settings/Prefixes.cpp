@@ -21,21 +21,22 @@ int ForEachPrefix(const Options& options, const std::function<bool(const WinePre
                   const std::function<void(const QString& prefix, const QString& error)>& missing) {
     // No --prefix: the one of the environment, as the program finds it.
     QList<WinePrefix> prefixes;
-    for (const QString& folder : options.prefixes) prefixes.append({folder});
+    for (const QString& folder : options.prefixes) prefixes.append(WinePrefix::FromText(folder));
     if (prefixes.isEmpty()) prefixes.append(WinePrefix::FromEnvironment());
     int failures = 0;
     for (const WinePrefix& prefix : prefixes) {
         const QString& inForce = prefix.folder;
+        const QString name = prefix.name();
         if (!QFileInfo(inForce).isDir()) {
-            Complain(QStringLiteral("%1: no such folder").arg(inForce));
-            if (missing) missing(inForce, QStringLiteral("no such folder"));
+            Complain(QStringLiteral("%1: no such folder").arg(name));
+            if (missing) missing(name, QStringLiteral("no such folder"));
             ++failures;
             continue;
         }
         const ActingAsPrefixOwner owner(inForce, kFailed);
         if (!owner.error().isEmpty()) {
-            Complain(QStringLiteral("%1: %2").arg(inForce, owner.error()));
-            if (missing) missing(inForce, owner.error());
+            Complain(QStringLiteral("%1: %2").arg(name, owner.error()));
+            if (missing) missing(name, owner.error());
         }
         if (!owner.error().isEmpty() || !each(prefix)) ++failures;
     }

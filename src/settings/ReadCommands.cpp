@@ -37,7 +37,7 @@ QList<ShownValue> chosen(const QList<ShownValue>& all, const QStringList& keys) 
 // its defaults would pass for the user's values.
 bool readable(const UserFiles& user) {
     for (const QString& error : user.readError().split(QLatin1Char('\n'), Qt::SkipEmptyParts))
-        Complain(QStringLiteral("%1: %2").arg(user.info().prefix.folder, error));
+        Complain(QStringLiteral("%1: %2").arg(user.info().prefix.name(), error));
     return user.readError().isEmpty();
 }
 
@@ -71,7 +71,7 @@ RunResult RunGet(const Options& options) {
     const int failures = ForEachPrefix(options, [&](const WinePrefix& wine) {
         const UserFiles user(wine, options.user);
         if (!readable(user)) return false;
-        const QString& prefix = wine.folder;
+        const QString prefix = wine.name();
         const QList<ShownValue> values = chosen(user.values(options.section), options.arguments);
         if (options.json) {
             json.append(jsonOf(prefix, user, options.section, values));
@@ -127,7 +127,7 @@ RunResult RunHistory(const Options& options) {
     }
     QJsonArray json;
     const int failures = ForEachPrefix(options, [&](const WinePrefix& wine) {
-        const QString& prefix = wine.folder;
+        const QString prefix = wine.name();
         const UserFiles user(wine, options.user);
         const QList<HistoryEntry> history = ReadHistory(user.lock().nativeIniPath());
         if (!options.json) {

@@ -64,7 +64,7 @@ std::optional<QList<CommittedRow>> UserFiles::planCommit(CommitPlan& plan, Setti
         const qsizetype length = ini_.getString(toCp1252(SectionName(section)), toCp1252(key.key), 1 << 30).size();
         if (length > 254 && std::none_of(edits.begin(), edits.end(), [&](const Edit& e) { return e.key == &key; }))
             Complain(QStringLiteral("%1: %2: the stored text of %3 characters is cut to 254, as the dialog reads it")
-                         .arg(info_.prefix.folder, key.key)
+                         .arg(info_.prefix.name(), key.key)
                          .arg(length));
     }
     GeneralEdit edit{variables_, LoadedControlState(variables_), {}};

@@ -122,7 +122,7 @@ void printText(const PrefixReport& report, bool check) {
 // differ (unless only checking).
 PrefixReport commitOnPrefix(const Options& options, const SectionEdits& edits, const WinePrefix& prefix) {
     const UserFiles user(prefix, options.user);
-    PrefixReport report{prefix.folder, user.info().actuel, false, {}, {}, {}};
+    PrefixReport report{prefix.name(), user.info().actuel, false, {}, {}, {}};
     if (const FolderLock::State state = user.lock().state(); state == FolderLock::State::Busy || state == FolderLock::State::Unavailable) {
         report.error = QStringLiteral("%1: %2").arg(user.lock().iniPath(), user.lock().failure().reason);
         return report;
@@ -201,7 +201,7 @@ RunResult commitEverywhere(const Options& options, const SectionEdits& edits, co
 // One prefix: the files of a history entry brought back.
 PrefixReport restoreOnPrefix(const Options& options, int number, const WinePrefix& prefix) {
     const UserFiles user(prefix, options.user);
-    PrefixReport report{prefix.folder, user.info().actuel, false, {}, {}, {}};
+    PrefixReport report{prefix.name(), user.info().actuel, false, {}, {}, {}};
     const QString nativeIni = user.lock().nativeIniPath();
     QString error;
     const std::optional<HistoryEntry> entry = ReadHistoryEntry(nativeIni, number, &error);

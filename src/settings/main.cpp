@@ -77,7 +77,8 @@ int main(int argc, char** argv) {
     // as any failed write, instead of killing the tool.
     std::signal(SIGXFSZ, SIG_IGN);
     QStringList arguments;
-    for (int i = 1; i < argc; ++i) arguments.append(QString::fromLocal8Bit(argv[i]));
+    // Bytes that are no UTF-8 (a folder named in Latin-1) are kept as they are.
+    for (int i = 1; i < argc; ++i) arguments.append(DecodeNativeText(argv[i]));
 
     QString error;
     const std::optional<Options> options = ParseOptions(arguments, &error);
