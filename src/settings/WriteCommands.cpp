@@ -159,7 +159,10 @@ RunResult reportEverywhere(const Options& options, const QStringList& refusals,
     int alreadySo = 0;
     if (!result.refused) {
         result.failed = ForEachPrefix(options, [&](const WinePrefix& prefix) {
-            const PrefixReport report = each(prefix);
+            PrefixReport report = each(prefix);
+            // A prefix that failed wrote nothing (the commit is all or
+            // nothing): no key and no file changed there.
+            if (!report.error.isEmpty()) report = {report.prefix, report.user, false, {}, {}, report.error};
             if (options.json) prefixes.append(jsonOf(report));
             else printText(report, options.check);
             if (!report.error.isEmpty()) return false;
