@@ -34,11 +34,12 @@ QList<ShownValue> chosen(const QList<ShownValue>& all, const QStringList& keys) 
 }
 
 // A zorel.ini or Brimo.ini that is there but cannot be read fails the prefix:
-// its defaults would pass for the user's values.
-bool readable(const UserFiles& user) {
-    for (const QString& error : user.readError().split(QLatin1Char('\n'), Qt::SkipEmptyParts))
+// its defaults would pass for the user's values. `errors` are those of the
+// user's files that the command needs, one a line.
+bool readable(const UserFiles& user, const QString& errors) {
+    for (const QString& error : errors.split(QLatin1Char('\n'), Qt::SkipEmptyParts))
         Complain(QStringLiteral("%1: %2").arg(user.info().prefix.folder, error));
-    return user.readError().isEmpty();
+    return errors.isEmpty();
 }
 
 QJsonObject jsonOf(const QString& prefix, const UserFiles& user, SettingSection section,
@@ -70,7 +71,7 @@ RunResult RunGet(const Options& options) {
     QJsonArray json;
     const int failures = ForEachPrefix(options, [&](const WinePrefix& wine) {
         const UserFiles user(wine, options.user);
-        if (!readable(user)) return false;
+        if (!readable(user, user.readError())) return false;
         const QString& prefix = wine.folder;
         const QList<ShownValue> values = chosen(user.values(options.section), options.arguments);
         if (options.json) {
@@ -95,7 +96,7 @@ RunResult RunExport(const Options& options) {
     ProfileDocument profile;
     const int failures = ForEachPrefix(options, [&](const WinePrefix& wine) {
         const UserFiles user(wine, options.user);
-        if (!readable(user)) return false;
+        if (!readable(user, user.readError())) return false;
         for (SettingSection section : kBothSections) {
             QList<ProfileDocument::KeyValue> keys;
             for (const ShownValue& value : user.committedValues(section))
@@ -129,6 +130,9 @@ RunResult RunHistory(const Options& options) {
     const int failures = ForEachPrefix(options, [&](const WinePrefix& wine) {
         const QString& prefix = wine.folder;
         const UserFiles user(wine, options.user);
+        // Without zorel.ini the user's folder is unknown: an empty history would
+        // pass for the user's.
+        if (!readable(user, user.zorelIniError())) return false;
         const QList<HistoryEntry> history = ReadHistory(user.lock().nativeIniPath());
         if (!options.json) {
             if (options.prefixes.size() > 1) Print(QStringLiteral("# %1\n").arg(prefix));
