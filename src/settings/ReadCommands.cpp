@@ -42,6 +42,21 @@ bool readable(const UserFiles& user, const QString& errors) {
     return errors.isEmpty();
 }
 
+// Whether apply of the file would take each value, by apply's own check; a
+// value that it would refuse (a control character, a double quote that
+// would end its Lisp string, a text that is no number) is said, naming the
+// key, and the file is not written.
+bool exportable(const UserFiles& user, SettingSection section, const QList<ShownValue>& values) {
+    bool all = true;
+    for (const ShownValue& value : values) {
+        QString error;
+        if (ParseEdit(section, value.key + QLatin1Char('=') + value.value, &error)) continue;
+        Complain(QStringLiteral("%1: %2; give the key a value").arg(user.info().prefix.folder, error));
+        all = false;
+    }
+    return all;
+}
+
 QJsonObject jsonOf(const QString& prefix, const UserFiles& user, SettingSection section,
                    const QList<ShownValue>& values) {
     QJsonObject byKey;
@@ -97,13 +112,15 @@ RunResult RunExport(const Options& options) {
     const int failures = ForEachPrefix(options, [&](const WinePrefix& wine) {
         const UserFiles user(wine, options.user);
         if (!readable(user, user.readError())) return false;
+        bool all = true;
         for (SettingSection section : kBothSections) {
+            const QList<ShownValue> values = user.committedValues(section);
+            all = exportable(user, section, values) && all;
             QList<ProfileDocument::KeyValue> keys;
-            for (const ShownValue& value : user.committedValues(section))
-                keys.append({toCp1252(value.key), toCp1252(value.value)});
+            for (const ShownValue& value : values) keys.append({toCp1252(value.key), toCp1252(value.value)});
             profile.setStrings(toCp1252(SectionName(section)), keys);
         }
-        return true;
+        return all;
     });
     if (failures) return {false, 0, failures};
 
