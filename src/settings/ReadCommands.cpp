@@ -93,10 +93,10 @@ RunResult RunGet(const Options& options) {
             json.append(jsonOf(prefix, user, options.section, values));
             return true;
         }
-        if (options.prefixes.size() > 1) Print(QStringLiteral("# %1\n").arg(prefix));
+        if (options.prefixes.size() > 1) Print(QStringLiteral("# %1\n").arg(Printable(prefix)));
         for (const ShownValue& value : values)
             Print((options.origin ? originOf(value) + QLatin1Char('\t') : QString()) + value.key + QLatin1Char('=') +
-                  value.value + QLatin1Char('\n'));
+                  Printable(value.value) + QLatin1Char('\n'));
         return true;
     });
     if (options.json) Print(QString::fromUtf8(QJsonDocument(json).toJson()));
@@ -152,12 +152,12 @@ RunResult RunHistory(const Options& options) {
         if (!readable(user, user.zorelIniError())) return false;
         const QList<HistoryEntry> history = ReadHistory(user.lock().nativeIniPath());
         if (!options.json) {
-            if (options.prefixes.size() > 1) Print(QStringLiteral("# %1\n").arg(prefix));
+            if (options.prefixes.size() > 1) Print(QStringLiteral("# %1\n").arg(Printable(prefix)));
             for (const HistoryEntry& entry : history)
                 Print(QStringLiteral("%1\t%2\t%3\t%4\t%5\n")
                           .arg(entry.number)
-                          .arg(entry.when.toLocalTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")), entry.program,
-                               entry.what, shortList(entry.keys)));
+                          .arg(entry.when.toLocalTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")),
+                               Printable(entry.program), Printable(entry.what), Printable(shortList(entry.keys))));
             return true;
         }
         QJsonArray entries;
