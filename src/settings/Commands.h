@@ -54,8 +54,14 @@ RunResult RunRestore(const Options& options);
 int ForEachPrefix(const Options& options, const std::function<bool(const WinePrefix& prefix)>& each,
                   const std::function<void(const QString& prefix, const QString& error)>& failed = {});
 
-// Text on the standard output and the standard error, in UTF-8.
+// Text on the standard output and the standard error, in UTF-8. Complain
+// shows its text as Printable does.
 void Print(const QString& text);
 void Complain(const QString& text);
+
+// Text read from a file as a report line shows it: each control character
+// as \t, \n, \r or \xHH (\x1B for escape), so that none acts on the
+// terminal or breaks the line. JSON escapes them itself.
+QString Printable(const QString& text);
 
 } // namespace brimo

@@ -14,7 +14,20 @@ void Print(const QString& text) { std::fputs(text.toUtf8().constData(), stdout);
 
 void Complain(const QString& text) {
     std::fflush(stdout);
-    std::fputs(("brimo-settings: " + text + QLatin1Char('\n')).toUtf8().constData(), stderr);
+    std::fputs(("brimo-settings: " + Printable(text) + QLatin1Char('\n')).toUtf8().constData(), stderr);
+}
+
+QString Printable(const QString& text) {
+    QString shown;
+    shown.reserve(text.size());
+    for (const QChar c : text) {
+        if (c.category() != QChar::Other_Control) shown += c;
+        else if (c == QLatin1Char('\t')) shown += QStringLiteral("\\t");
+        else if (c == QLatin1Char('\n')) shown += QStringLiteral("\\n");
+        else if (c == QLatin1Char('\r')) shown += QStringLiteral("\\r");
+        else shown += QStringLiteral("\\x") + QString::number(c.unicode(), 16).toUpper().rightJustified(2, QLatin1Char('0'));
+    }
+    return shown;
 }
 
 int ForEachPrefix(const Options& options, const std::function<bool(const WinePrefix& prefix)>& each,

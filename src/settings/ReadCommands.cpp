@@ -34,11 +34,27 @@ QList<ShownValue> chosen(const QList<ShownValue>& all, const QStringList& keys) 
 }
 
 // A zorel.ini or Brimo.ini that is there but cannot be read fails the prefix:
-// its defaults would pass for the user's values.
-bool readable(const UserFiles& user) {
-    for (const QString& error : user.readError().split(QLatin1Char('\n'), Qt::SkipEmptyParts))
+// its defaults would pass for the user's values. `errors` are those of the
+// user's files that the command needs, one a line.
+bool readable(const UserFiles& user, const QString& errors) {
+    for (const QString& error : errors.split(QLatin1Char('\n'), Qt::SkipEmptyParts))
         Complain(QStringLiteral("%1: %2").arg(user.info().prefix.name(), error));
-    return user.readError().isEmpty();
+    return errors.isEmpty();
+}
+
+// Whether apply of the file would take each value, by apply's own check; a
+// value that it would refuse (a control character, a double quote that
+// would end its Lisp string, a text that is no number) is said, naming the
+// key, and the file is not written.
+bool exportable(const UserFiles& user, SettingSection section, const QList<ShownValue>& values) {
+    bool all = true;
+    for (const ShownValue& value : values) {
+        QString error;
+        if (ParseEdit(section, value.key + QLatin1Char('=') + value.value, &error)) continue;
+        Complain(QStringLiteral("%1: %2; give the key a value").arg(user.info().prefix.name(), error));
+        all = false;
+    }
+    return all;
 }
 
 QJsonObject jsonOf(const QString& prefix, const UserFiles& user, SettingSection section,
@@ -70,17 +86,17 @@ RunResult RunGet(const Options& options) {
     QJsonArray json;
     const int failures = ForEachPrefix(options, [&](const WinePrefix& wine) {
         const UserFiles user(wine, options.user);
-        if (!readable(user)) return false;
+        if (!readable(user, user.readError())) return false;
         const QString prefix = wine.name();
         const QList<ShownValue> values = chosen(user.values(options.section), options.arguments);
         if (options.json) {
             json.append(jsonOf(prefix, user, options.section, values));
             return true;
         }
-        if (options.prefixes.size() > 1) Print(QStringLiteral("# %1\n").arg(prefix));
+        if (options.prefixes.size() > 1) Print(QStringLiteral("# %1\n").arg(Printable(prefix)));
         for (const ShownValue& value : values)
             Print((options.origin ? originOf(value) + QLatin1Char('\t') : QString()) + value.key + QLatin1Char('=') +
-                  value.value + QLatin1Char('\n'));
+                  Printable(value.value) + QLatin1Char('\n'));
         return true;
     });
     if (options.json) Print(QString::fromUtf8(QJsonDocument(json).toJson()));
@@ -95,14 +111,16 @@ RunResult RunExport(const Options& options) {
     ProfileDocument profile;
     const int failures = ForEachPrefix(options, [&](const WinePrefix& wine) {
         const UserFiles user(wine, options.user);
-        if (!readable(user)) return false;
+        if (!readable(user, user.readError())) return false;
+        bool all = true;
         for (SettingSection section : kBothSections) {
+            const QList<ShownValue> values = user.committedValues(section);
+            all = exportable(user, section, values) && all;
             QList<ProfileDocument::KeyValue> keys;
-            for (const ShownValue& value : user.committedValues(section))
-                keys.append({toCp1252(value.key), toCp1252(value.value)});
+            for (const ShownValue& value : values) keys.append({toCp1252(value.key), toCp1252(value.value)});
             profile.setStrings(toCp1252(SectionName(section)), keys);
         }
-        return true;
+        return all;
     });
     if (failures) return {false, 0, failures};
 
@@ -129,15 +147,18 @@ RunResult RunHistory(const Options& options) {
     const int failures = ForEachPrefix(options, [&](const WinePrefix& wine) {
         const QString prefix = wine.name();
         const UserFiles user(wine, options.user);
+        // Without zorel.ini the user's folder is unknown: an empty history would
+        // pass for the user's.
+        if (!readable(user, user.zorelIniError())) return false;
         const QList<HistoryEntry> history = ReadHistory(user.lock().nativeIniPath());
         if (!options.json) {
-            if (options.prefixes.size() > 1) Print(QStringLiteral("# %1\n").arg(prefix));
+            if (options.prefixes.size() > 1) Print(QStringLiteral("# %1\n").arg(Printable(prefix)));
             for (const HistoryEntry& entry : history)
-                Print(!entry.damaged.isEmpty() ? QStringLiteral("%1\tdamaged\t%2\n").arg(entry.number).arg(entry.damaged)
+                Print(!entry.damaged.isEmpty() ? QStringLiteral("%1\tdamaged\t%2\n").arg(entry.number).arg(Printable(entry.damaged))
                                               : QStringLiteral("%1\t%2\t%3\t%4\t%5\n")
                           .arg(entry.number)
-                          .arg(entry.when.toLocalTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")), entry.program,
-                               entry.what, shortList(entry.keys)));
+                          .arg(entry.when.toLocalTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")),
+                               Printable(entry.program), Printable(entry.what), Printable(shortList(entry.keys))));
             return true;
         }
         QJsonArray entries;

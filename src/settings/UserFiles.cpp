@@ -13,13 +13,13 @@
 namespace brimo {
 
 UserFiles::UserFiles(const WinePrefix& prefix, const std::optional<QString>& user) {
-    QString zorelError, brimoError;
-    LoadInstallInfo(prefix, info_, &zorelError);
+    QString brimoError;
+    LoadInstallInfo(prefix, info_, &zorelIniError_);
     if (user) info_.actuel = *user == QLatin1String("Default") ? QString() : *user;
     lock_.emplace(prefix, BrimoIniPath(info_));
     ini_ = LoadProfile(prefix, BrimoIniPath(info_), &brimoError);
     LoadGeneralVariables(info_, variables_);
-    for (const QString& error : {zorelError, brimoError})
+    for (const QString& error : {zorelIniError_, brimoError})
         if (!error.isEmpty()) readError_ += (readError_.isEmpty() ? QString() : QStringLiteral("\n")) + error;
 }
 

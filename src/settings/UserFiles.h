@@ -37,6 +37,8 @@ public:
     // no right to read, too large), one line a file, naming it; empty when
     // both were read or are missing. The prefix then fails.
     const QString& readError() const { return readError_; }
+    // The line of zorel.ini alone, which names the user's folder.
+    const QString& zorelIniError() const { return zorelIniError_; }
 
     // Each key of the section with the text the dialog starts from: the
     // stored text, or the default (the form's design for the slope dialog).
@@ -62,7 +64,7 @@ public:
 private:
     InstallInfo info_;
     std::optional<UserFolderLock> lock_;
-    QString readError_;
+    QString readError_, zorelIniError_;
     ProfileDocument ini_;
     GeneralVariables variables_;
 };

@@ -109,12 +109,13 @@ void printText(const PrefixReport& report, bool check) {
         return;
     }
     if (!report.changed) {
-        Print(QStringLiteral("%1: already so\n").arg(report.prefix));
+        Print(QStringLiteral("%1: already so\n").arg(Printable(report.prefix)));
         return;
     }
-    QString text = QStringLiteral("%1: %2\n").arg(report.prefix, check ? "would change" : "changed");
-    for (const QStringList& key : report.keys) text += QStringLiteral("  %1: \"%2\" -> \"%3\"\n").arg(key[1], key[2], key[3]);
-    for (const QString& file : report.files) text += QStringLiteral("  file %1\n").arg(file);
+    QString text = QStringLiteral("%1: %2\n").arg(Printable(report.prefix), check ? "would change" : "changed");
+    for (const QStringList& key : report.keys)
+        text += QStringLiteral("  %1: \"%2\" -> \"%3\"\n").arg(Printable(key[1]), Printable(key[2]), Printable(key[3]));
+    for (const QString& file : report.files) text += QStringLiteral("  file %1\n").arg(Printable(file));
     Print(text);
 }
 
@@ -159,7 +160,10 @@ RunResult reportEverywhere(const Options& options, const QStringList& refusals,
     int alreadySo = 0;
     if (!result.refused) {
         result.failed = ForEachPrefix(options, [&](const WinePrefix& prefix) {
-            const PrefixReport report = each(prefix);
+            PrefixReport report = each(prefix);
+            // A prefix that failed wrote nothing (the commit is all or
+            // nothing): no key and no file changed there.
+            if (!report.error.isEmpty()) report = {report.prefix, report.user, false, {}, {}, report.error};
             if (options.json) prefixes.append(jsonOf(report));
             else printText(report, options.check);
             if (!report.error.isEmpty()) return false;
