@@ -57,4 +57,51 @@ QString fromCp1252(const char* data, qsizetype size) {
 
 QString fromCp1252(const QByteArray& bytes) { return fromCp1252(bytes.constData(), bytes.size()); }
 
+QByteArray utf8ToCp1252(QByteArrayView text, qsizetype begin, qsizetype end) {
+    const auto& table = encodeTable();
+    QByteArray out;
+    out.reserve(end - begin);
+    qsizetype i = begin;
+    while (i < end) {
+        const auto lead = static_cast<unsigned char>(text[i++]);
+        if (lead < 0x80) {
+            out += static_cast<char>(lead);
+            continue;
+        }
+        const int more = lead >= 0xC2 && lead <= 0xDF ? 1 : lead >= 0xE0 && lead <= 0xEF ? 2 : lead >= 0xF0 && lead <= 0xF4 ? 3 : 0;
+        if (more == 0) {
+            out += '?';
+            continue;
+        }
+        if (i + more > text.size()) {
+            out += '?';
+            break;
+        }
+        // A byte that continues nothing ends the sequence and starts the next
+        // character. The second byte's range also rules out overlong forms,
+        // the surrogates and the code points past U+10FFFF; a second byte out
+        // of it is taken into the one '?' with the lead.
+        const unsigned char low = lead == 0xE0 ? 0xA0 : lead == 0xF0 ? 0x90 : 0x80;
+        const unsigned char high = lead == 0xED ? 0x9F : lead == 0xF4 ? 0x8F : 0xBF;
+        char32_t code = lead & (0x3F >> more);
+        bool whole = true;
+        for (int k = 0; k < more && whole; ++k) {
+            const auto c = static_cast<unsigned char>(text[i]);
+            if ((c & 0xC0) != 0x80) {
+                whole = false;
+            } else {
+                ++i;
+                code = (code << 6) | (c & 0x3F);
+                whole = k > 0 || (c >= low && c <= high);
+            }
+        }
+        if (!whole) out += '?';
+        else if (code > 0xFFFF) out += "??";
+        else out += static_cast<char>(table.bytes[code]);
+    }
+    return out;
+}
+
+QByteArray cp1252ToUtf8(QByteArrayView bytes) { return fromCp1252(bytes.data(), bytes.size()).toUtf8(); }
+
 } // namespace brimo

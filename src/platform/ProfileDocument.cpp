@@ -1,5 +1,7 @@
 #include "platform/ProfileDocument.h"
 
+#include "platform/Cp1252.h"
+
 #include <algorithm>
 #include <cstring>
 
@@ -98,7 +100,20 @@ bool profileNamesEqual(QByteArrayView stored, QByteArrayView wanted) {
     return true;
 }
 
-ProfileDocument::ProfileDocument(QByteArray bytes) : bytes_(std::move(bytes)) {}
+// An editor may save Brimo.ini or zorel.ini as UTF-8 with a byte-order mark.
+// The profile functions of Windows then read the file as UTF-8 and write it
+// back so, mark first; read as Windows-1252, the mark would hide the first
+// section, and a write would add that section a second time.
+ProfileDocument::ProfileDocument(QByteArray bytes)
+    : bytes_(std::move(bytes)), utf8_(bytes_.startsWith("\xEF\xBB\xBF")) {}
+
+QByteArray ProfileDocument::stored(QByteArrayView text) const {
+    return utf8_ ? cp1252ToUtf8(text) : text.toByteArray();
+}
+
+QByteArray ProfileDocument::cp1252Of(qsizetype begin, qsizetype end) const {
+    return utf8_ ? utf8ToCp1252(bytes_, begin, end) : bytes_.mid(begin, end - begin);
+}
 
 // Section headers are found by looking for '[' alone: a file of many MB is
 // scanned at the speed of memchr, and only the lines that hold a '[' after
@@ -109,18 +124,19 @@ void ProfileDocument::indexSections() const {
     const QByteArrayView bytes(bytes_);
     const char* data = bytes.data();
     const qsizetype size = bytes.size();
-    qsizetype pos = 0;
+    const qsizetype begin = textBegin();
+    qsizetype pos = begin;
     while (pos < size) {
         const void* hit = std::memchr(data + pos, '[', static_cast<size_t>(size - pos));
         if (!hit) break;
         const qsizetype bracket = static_cast<const char*>(hit) - data;
         qsizetype lineBegin = bracket;
-        while (lineBegin > 0 && !isLineEnd(data[lineBegin - 1]) &&
+        while (lineBegin > begin && !isLineEnd(data[lineBegin - 1]) &&
                isProfileBlank(static_cast<unsigned char>(data[lineBegin - 1])))
             --lineBegin;
         const qsizetype lineEnd = lineEndOf(bytes, bracket);
         pos = nextLineOf(bytes, lineEnd);
-        if (lineBegin > 0 && !isLineEnd(data[lineBegin - 1])) continue; // a '[' inside a line
+        if (lineBegin > begin && !isLineEnd(data[lineBegin - 1])) continue; // a '[' inside a line
         qsizetype b = bracket, e = lineEnd;
         trimRange(bytes, b, e);
         const char* close = static_cast<const char*>(memrchr(data + b, ']', static_cast<size_t>(e - b)));
@@ -157,10 +173,10 @@ const ProfileDocument::Section* ProfileDocument::findSection(QByteArrayView name
 
 QList<QByteArray> ProfileDocument::keyNames(QByteArrayView section) const {
     QList<QByteArray> names;
-    const Section* found = findSection(section);
+    const Section* found = findSection(stored(section));
     if (!found) return names;
     for (const Key& key : keysOf(*found))
-        if (key.valueBegin >= 0) names.append(bytes_.mid(key.nameBegin, key.nameEnd - key.nameBegin));
+        if (key.valueBegin >= 0) names.append(cp1252Of(key.nameBegin, key.nameEnd));
     return names;
 }
 
@@ -177,9 +193,10 @@ std::vector<ProfileDocument::Key> ProfileDocument::keysOf(const Section& section
     return keys;
 }
 
-QByteArray ProfileDocument::getString(QByteArrayView section, QByteArrayView key, int bufferSize) const {
-    if (bufferSize <= 0 || trimmed(key).isEmpty()) return {};
-    const Section* s = findSection(section);
+QByteArray ProfileDocument::getString(QByteArrayView section, QByteArrayView ansiKey, int bufferSize) const {
+    if (bufferSize <= 0 || trimmed(ansiKey).isEmpty()) return {};
+    const QByteArray key = stored(ansiKey);
+    const Section* s = findSection(stored(section));
     if (!s) return {};
     const qsizetype sectionIndex = s - sections_.data();
     if (lastKeysOf_ != sectionIndex) {
@@ -189,7 +206,10 @@ QByteArray ProfileDocument::getString(QByteArrayView section, QByteArrayView key
     for (const Key& k : lastKeys_) {
         if (!profileNamesEqual(QByteArrayView(bytes_).sliced(k.nameBegin, k.nameEnd - k.nameBegin), key)) continue;
         if (k.valueBegin < 0) return {};
-        QByteArrayView value = QByteArrayView(bytes_).sliced(k.valueBegin, k.valueEnd - k.valueBegin);
+        // The quotes and the buffer apply to the characters, not to the
+        // bytes of a UTF-8 file.
+        const QByteArray text = cp1252Of(k.valueBegin, k.valueEnd);
+        QByteArrayView value(text);
         // One pair of quotes goes; when the buffer cuts the value, the closing
         // quote is cut with it and the last character kept is dropped instead.
         bool quoted = false;
@@ -208,8 +228,8 @@ bool ProfileDocument::setString(QByteArrayView section, QByteArrayView key, QByt
     return setStrings(section, {{key.toByteArray(), value.toByteArray()}});
 }
 
-bool ProfileDocument::setStrings(QByteArrayView sectionName, const QList<KeyValue>& keyValues) {
-    sectionName = trimmed(sectionName);
+bool ProfileDocument::setStrings(QByteArrayView ansiSection, const QList<KeyValue>& keyValues) {
+    const QByteArray sectionName = stored(trimmed(ansiSection));
     if (sectionName.isEmpty() || keyValues.isEmpty()) return false;
     const Section* found = findSection(sectionName);
 
@@ -231,14 +251,14 @@ bool ProfileDocument::setStrings(QByteArrayView sectionName, const QList<KeyValu
         }
     } else {
         spliceBegin = spliceEnd = bytes_.size();
-        if (!bytes_.isEmpty() && !isLineEnd(bytes_.back())) header = "\r\n";
-        header += '[' + sectionName.toByteArray() + "]\r\n";
+        if (bytes_.size() > textBegin() && !isLineEnd(bytes_.back())) header = "\r\n";
+        header += '[' + sectionName + "]\r\n";
     }
 
     bool changed = !found;
     for (const KeyValue& kv : keyValues) {
-        const QByteArrayView key = trimmed(kv.first);
-        const QByteArrayView value = trimmed(kv.second);
+        const QByteArray key = stored(trimmed(kv.first));
+        const QByteArray value = stored(trimmed(kv.second));
 
         qsizetype lastContent = -1;
         bool replaced = false;
@@ -251,15 +271,15 @@ bool ProfileDocument::setStrings(QByteArrayView sectionName, const QList<KeyValu
             replaced = true;
             if (p.eq >= 0) {
                 if (QByteArrayView(line).sliced(p.valueBegin, p.valueEnd - p.valueBegin) == value) break;
-                lines[i] = line.first(p.valueBegin) + value.toByteArray() + line.sliced(p.contentEnd);
+                lines[i] = line.first(p.valueBegin) + value + line.sliced(p.contentEnd);
             } else {
-                lines[i] = line.first(p.contentEnd) + '=' + value.toByteArray() + line.sliced(p.contentEnd);
+                lines[i] = line.first(p.contentEnd) + '=' + value + line.sliced(p.contentEnd);
             }
             changed = true;
         }
         if (replaced) continue;
 
-        const QByteArray newLine = key.toByteArray() + '=' + value.toByteArray() + "\r\n";
+        const QByteArray newLine = key + '=' + value + "\r\n";
         if (lastContent >= 0 && !isLineEnd(lines[lastContent].back())) lines[lastContent] += "\r\n";
         lines.insert(lastContent + 1, newLine);
         changed = true;

@@ -16,7 +16,11 @@
 //  - a write replaces the value of an existing key in its line, or adds the
 //    key behind the last line of its section, or adds the section at the end;
 //    names and values are written without the blanks around them; every other
-//    byte of the file stays as it was; new lines end in CR LF.
+//    byte of the file stays as it was; new lines end in CR LF;
+//  - a file that starts with the UTF-8 byte-order mark EF BB BF holds UTF-8
+//    after it: its first line starts behind the mark, names and values are
+//    read as Windows-1252 text decoded from UTF-8 (see utf8ToCp1252) and
+//    written in UTF-8, and the mark stays. Any other file is Windows-1252.
 
 #include <QByteArray>
 #include <QByteArrayView>
@@ -60,11 +64,19 @@ private:
         qsizetype valueBegin = -1, valueEnd = -1; // -1: a line without '='
     };
 
+    // The first byte behind the byte-order mark: 0 for a Windows-1252 file.
+    qsizetype textBegin() const { return utf8_ ? 3 : 0; }
+    // A name or a value of the caller's, in Windows-1252, as the file holds it.
+    QByteArray stored(QByteArrayView text) const;
+    // The stored bytes from `begin` to `end` as Windows-1252.
+    QByteArray cp1252Of(qsizetype begin, qsizetype end) const;
+
     void indexSections() const;
     const Section* findSection(QByteArrayView name) const;
     std::vector<Key> keysOf(const Section& section) const;
 
     QByteArray bytes_;
+    bool utf8_ = false;
     mutable bool indexed_ = false;
     mutable std::vector<Section> sections_; // named sections, in file order
     mutable qsizetype lastSection_ = -1;

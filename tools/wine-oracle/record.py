@@ -85,8 +85,14 @@ def until_nul(b):
     return b.split(b'\0')[0]
 
 
+BOM_UTF8 = b'\xef\xbb\xbf'
+
+
 def names_of(data):
-    """Section and key names of a file as Wine reads it."""
+    """Section and key names of a file as Wine reads it, in the ANSI code
+    page: a file with a UTF-8 byte-order mark is read as UTF-8."""
+    if data.startswith(BOM_UTF8):
+        data = cp1252_bytes(data[len(BOM_UTF8):].decode('utf-8', errors='replace'))
     sections, keys = set(), set()
     for line in data.replace(b'\r', b'\n').split(b'\n'):
         line = line.strip(BLANKS)
@@ -129,13 +135,12 @@ def record_reads(wine, tmp, rows, folder):
 def profile_reads(wine, tmp):
     folder = os.path.join(DATA, 'profiles')
     rows = reads_of('missing.ini', b'', {b'S', b'Nope'}, {b'k', b'nope'})
-    for name in sorted(n for n in os.listdir(folder) if not n.startswith('bom-')):
+    for name in sorted(n for n in os.listdir(folder) if n != 'bom-utf16.ini'):
         data = open(os.path.join(folder, name), 'rb').read()
         sections, keys = names_of(data)
         rows += reads_of(name, data, sections | {b'S', b'Nope'}, keys | {b'k', b'nope'})
-    # Names the program never passes, and files with a byte-order mark.
-    rows += [('spacing.ini', b'', b'k'), ('spacing.ini', b'S', b''), ('bom-utf8.ini', b'S', b'k'),
-             ('bom-utf16.ini', b'S', b'k')]
+    # Names the program never passes, and a file in UTF-16.
+    rows += [('spacing.ini', b'', b'k'), ('spacing.ini', b'S', b''), ('bom-utf16.ini', b'S', b'k')]
     return record_reads(wine, tmp, rows, folder)
 
 
@@ -164,6 +169,18 @@ WRITES = [
     ('trailingblank.ini', b'[S]\r\nk=1\r\n\r\n\r\n[T]\r\nk=2\r\n\r\n', [(b'S', b'n', b'v'), (b'T', b'n', b'w')]),
     ('comment.ini', b'[S]\r\nk=1\r\n;note\r\n[T]\r\n', [(b'S', b'n', b'v'), (b'T', b'n', b'w')]),
     ('nofolder/x.ini', None, [(b'S', b'k', b'v')]),
+    # Files with a UTF-8 byte-order mark; the values are ANSI bytes.
+    ('bom-replace.ini', BOM_UTF8 + CANONICAL, [(b'S', b'k', b'new')]),
+    ('bom-addkey.ini', BOM_UTF8 + CANONICAL, [(b'S', b'n', b'v')]),
+    ('bom-addsection.ini', BOM_UTF8 + CANONICAL, [(b'U', b'k', b'v')]),
+    ('bom-same.ini', BOM_UTF8 + CANONICAL, [(b'S', b'k', b'1')]),
+    ('bom-high.ini', BOM_UTF8 + b'[S]\r\nk=caf\xc3\xa9\r\n[\xc3\x89t\xc3\xa9]\r\ncl\xc3\xa9=1\r\n',
+     [(b'S', b'k', b'th\xe9'), (b'\xc9t\xe9', b'cl\xe9', b'\x80\xe9\xff\x81'), (b'\xc9t\xe9', b'\xe9l\xe8ve', b'\x92'),
+      (b'\xe9t\xe9', b'k', b'v')]),
+    ('bom-only.ini', BOM_UTF8, [(b'S', b'k', b'v')]),
+    ('bom-before.ini', BOM_UTF8 + b'k=0\r\n[S]\r\nk=1\r\n', [(b'S', b'k', b'2'), (b'T', b'k', b'3')]),
+    ('bom-cp1252.ini', BOM_UTF8 + b'[S]\r\nk=caf\xe9\r\n', [(b'S', b'j', b'2')]),
+    ('bom-noend.ini', BOM_UTF8 + b'[S]\r\nk=1', [(b'S', b'j', b'2')]),
 ]
 
 
