@@ -34,8 +34,8 @@ static QString userFile(const InstallInfo& info, const char* name) {
     return info.Variables + QLatin1Char('\\') + info.actuel + QLatin1Char('\\') + QLatin1String(name);
 }
 
-QString BrimoIniPath(const InstallInfo& info) { return userFile(info, "Brimo.ini"); }
-QString GeneLispPath(const InstallInfo& info) { return userFile(info, "Brimo_Gene.lsp"); }
-QString TalusLispPath(const InstallInfo& info) { return userFile(info, "Brimo_Talus.lsp"); }
+QString BrimoIniPath(const InstallInfo& info) { return userFile(info, kUserFileNames[0]); }
+QString GeneLispPath(const InstallInfo& info) { return userFile(info, kUserFileNames[1]); }
+QString TalusLispPath(const InstallInfo& info) { return userFile(info, kUserFileNames[2]); }
 
 } // namespace brimo

@@ -9,6 +9,8 @@
 
 #include <QString>
 
+#include <array>
+
 namespace brimo {
 
 struct InstallInfo {
@@ -33,5 +35,8 @@ QString LegendFolder(const InstallInfo& info);   // Zorel + "\Lang\"
 QString BrimoIniPath(const InstallInfo& info);   // Variables + "\" + actuel + "\Brimo.ini"
 QString GeneLispPath(const InstallInfo& info);   // ... + "\Brimo_Gene.lsp"
 QString TalusLispPath(const InstallInfo& info);  // ... + "\Brimo_Talus.lsp"
+
+// The names of the files of a user's folder that commits write.
+inline constexpr std::array<const char*, 3> kUserFileNames = {"Brimo.ini", "Brimo_Gene.lsp", "Brimo_Talus.lsp"};
 
 } // namespace brimo

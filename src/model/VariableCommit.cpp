@@ -28,7 +28,8 @@ QString journalBeside(const QString& nativeIni) {
 QString lockIn(const QString& folder) { return folder + QStringLiteral("/Brimo.ini.lock"); }
 
 // The folders whose files a commit or a recovery in the folder of Brimo.ini
-// touches: that folder, and the folder of each link's target; each once, in
+// touches: that folder, and the folder that each of the user's files leads
+// to when it is a link; each once, in
 // the order of their identity on the disk (device, then inode), which every
 // process sees alike, however it reaches them. A folder that does not exist
 // comes last.
@@ -36,8 +37,12 @@ QStringList foldersToLock(const QString& nativeIni) {
     const QString folder = QFileInfo(nativeIni).absolutePath();
     QStringList folders{folder};
     const auto all = QDir::Files | QDir::System | QDir::Hidden;
+    const auto userFile = [](const QString& name) {
+        return std::any_of(kUserFileNames.begin(), kUserFileNames.end(),
+                           [&](const char* userName) { return name.compare(QLatin1String(userName), Qt::CaseInsensitive) == 0; });
+    };
     for (const QFileInfo& link : QDir(folder).entryInfoList(all))
-        if (link.isSymLink())
+        if (link.isSymLink() && userFile(link.fileName()))
             if (const std::optional<QString> target = FollowLinks(link.filePath()))
                 folders.append(QFileInfo(*target).absolutePath());
     std::map<std::pair<dev_t, ino_t>, QString> byIdentity;
