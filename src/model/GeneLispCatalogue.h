@@ -5,6 +5,7 @@
 // The line catalogue of Brimo_Gene.lsp: row N is line N when every choice is
 // made. The Lisp name of a row is also its key in section Brimo_Gene.
 
+#include "model/GeneralVariableCatalogue.h"
 #include "model/LispFile.h"
 
 #include <array>
@@ -73,6 +74,20 @@ inline constexpr std::array<GeneLispRow, 51> kGeneLispCatalogue = {{
     {50, "path_win6", LispLineForm::Path, ") ;Emplacement d'acrobat reader", "Path_Win6"},
     {51, "path_win5", LispLineForm::Path, ") ;Emplacement d'un programme personnel", "Path_Win5"},
 }};
+
+// The variable that a row writes, and so the control it reads.
+constexpr const GeneralVariableRow& VariableOf(const GeneLispRow& row) { return *FindVariableRow(row.variable); }
+
+// Every variable is written by one row.
+constexpr bool rowsWriteEveryVariableOnce() {
+    for (const GeneralVariableRow& variable : kGeneralVariableCatalogue) {
+        int rows = 0;
+        for (const GeneLispRow& row : kGeneLispCatalogue) rows += SameName(row.variable, variable.key);
+        if (rows != 1) return false;
+    }
+    return true;
+}
+static_assert(rowsWriteEveryVariableOnce());
 
 // The complete literals of the fixed rows, by row and value.
 struct GeneFixedLine {

@@ -7,36 +7,29 @@ namespace brimo {
 
 namespace {
 
-// Row N of the sources reads the control of row N of the Lisp catalogue.
-constexpr bool sourcesFollowCatalogue() {
-    if (kGeneralCommitSources.size() != kGeneLispCatalogue.size()) return false;
-    for (std::size_t i = 0; i < kGeneLispCatalogue.size(); ++i)
-        if (kGeneralCommitSources[i].row != kGeneLispCatalogue[i].row) return false;
-    return true;
-}
-static_assert(sourcesFollowCatalogue());
+bool isOf(const GeneralChoice& choice, const GeneralVariableRow& variable) { return SameName(choice.key, variable.key); }
 
-// The value that a row takes from the controls, or nothing for a group in
-// which no button is selected.
-std::optional<QString> valueOfRow(const CommitSource& source, const GeneralControlState& state) {
-    const QString control = QLatin1String(source.control);
-    switch (source.read) {
+// The value that a variable takes from its control, or nothing for a group
+// in which no button is selected.
+std::optional<QString> valueOf(const GeneralVariableRow& variable, const GeneralControlState& state) {
+    const QString control = QLatin1String(variable.field);
+    switch (ReadOf(variable.type)) {
     case ControlRead::Text: return state.texts.value(control);
     case ControlRead::State: return QLatin1String(state.checkStates.value(control) == 0 ? "0" : "1");
     case ControlRead::Options:
-        for (const ChoiceTest& test : kGeneralChoiceTests)
-            if (test.row == source.row && state.selectedOptions.contains(QLatin1String(test.button)))
-                return QString::fromLatin1(test.value);
+        for (const GeneralChoice& choice : kGeneralChoices)
+            if (isOf(choice, variable) && state.selectedOptions.contains(QLatin1String(choice.button)))
+                return QString::fromLatin1(choice.value);
         return std::nullopt;
     }
     return std::nullopt;
 }
 
-// What a state holds for the control of a row: a field's text, a box's
+// What a state holds for the control of a variable: a field's text, a box's
 // state, or the buttons selected in a group.
-QString held(const GeneralControlState& state, const CommitSource& source) {
-    const QString control = QLatin1String(source.control);
-    switch (source.read) {
+QString held(const GeneralControlState& state, const GeneralVariableRow& variable) {
+    const QString control = QLatin1String(variable.field);
+    switch (ReadOf(variable.type)) {
     case ControlRead::Text: return state.texts.value(control);
     case ControlRead::State: return QString::number(state.checkStates.value(control));
     case ControlRead::Options: break;
@@ -48,9 +41,9 @@ QString held(const GeneralControlState& state, const CommitSource& source) {
     return selected.join(QLatin1Char(' '));
 }
 
-void takeControl(GeneralControlState& into, const GeneralControlState& from, const CommitSource& source) {
-    const QString control = QLatin1String(source.control);
-    switch (source.read) {
+void takeControl(GeneralControlState& into, const GeneralControlState& from, const GeneralVariableRow& variable) {
+    const QString control = QLatin1String(variable.field);
+    switch (ReadOf(variable.type)) {
     case ControlRead::Text: into.texts.insert(control, from.texts.value(control)); return;
     case ControlRead::State: into.checkStates.insert(control, from.checkStates.value(control)); return;
     case ControlRead::Options: break;
@@ -68,9 +61,8 @@ bool writtenBetweenQuotes(const GeneLispRow& row) {
 
 QList<CommittedRow> ComposeGeneralCommit(const GeneralControlState& state) {
     QList<CommittedRow> rows;
-    for (std::size_t i = 0; i < kGeneLispCatalogue.size(); ++i) {
-        const GeneLispRow& row = kGeneLispCatalogue[i];
-        const std::optional<QString> value = valueOfRow(kGeneralCommitSources[i], state);
+    for (const GeneLispRow& row : kGeneLispCatalogue) {
+        const std::optional<QString> value = valueOf(VariableOf(row), state);
         if (!value) continue;
         const std::optional<QString> line = GeneLispLine(row, *value);
         if (!line) continue;
@@ -80,9 +72,8 @@ QList<CommittedRow> ComposeGeneralCommit(const GeneralControlState& state) {
 }
 
 std::optional<UnwritableField> FindUnwritableQuote(const GeneralControlState& state) {
-    for (std::size_t i = 0; i < kGeneLispCatalogue.size(); ++i) {
-        const GeneLispRow& row = kGeneLispCatalogue[i];
-        const QString control = QLatin1String(kGeneralCommitSources[i].control);
+    for (const GeneLispRow& row : kGeneLispCatalogue) {
+        const QString control = QLatin1String(VariableOf(row).field);
         if (!writtenBetweenQuotes(row) || !state.texts.value(control).contains(QLatin1Char('"'))) continue;
         // The comment of the row, behind ") ;", says what the field holds.
         const QString comment = QString::fromUtf8(row.closing).section(QLatin1Char(';'), 1);
@@ -95,10 +86,10 @@ GeneralEdit MergeStoredChanges(const GeneralEdit& edit, const GeneralVariables& 
     const GeneralControlState before = LoadedControlState(edit.loadedFrom);
     const GeneralControlState after = LoadedControlState(storedNow);
     GeneralEdit merged{storedNow, edit.loaded, edit.edited};
-    for (const CommitSource& source : kGeneralCommitSources)
-        if (held(before, source) != held(after, source) && held(edit.edited, source) == held(edit.loaded, source)) {
-            takeControl(merged.edited, after, source);
-            takeControl(merged.loaded, after, source);
+    for (const GeneralVariableRow& variable : kGeneralVariableCatalogue)
+        if (held(before, variable) != held(after, variable) && held(edit.edited, variable) == held(edit.loaded, variable)) {
+            takeControl(merged.edited, after, variable);
+            takeControl(merged.loaded, after, variable);
         }
     return merged;
 }

@@ -3,7 +3,8 @@
 // Lisp files, without a window; it sees the platform alone.
 //
 // The commit of CGeneralForm without its window: from what the controls hold
-// to the rows of Brimo_Gene.lsp and section Brimo_Gene of Brimo.ini.
+// to the rows of Brimo_Gene.lsp and section Brimo_Gene of Brimo.ini. Each row
+// reads the control of its variable (model/GeneralVariableCatalogue.h).
 
 #include "model/GeneralVariables.h"
 #include "model/InstallInfo.h"
@@ -13,103 +14,9 @@
 #include <QSet>
 #include <QString>
 
-#include <array>
 #include <optional>
 
 namespace brimo {
-
-// What the commit reads of a control.
-enum class ControlRead {
-    Text,    // the text of a field
-    Options, // which button of an option group is selected
-    State,   // the state of a check box
-};
-
-// The control that each row of the Lisp catalogue reads, row N at index N - 1.
-struct CommitSource {
-    int row;
-    const char* control; // a field, a check box, or the name of an option group
-    ControlRead read;
-};
-
-inline constexpr std::array<CommitSource, 51> kGeneralCommitSources = {{
-    {1, "Val0", ControlRead::Text},
-    {2, "Val1", ControlRead::Text},
-    {3, "Val2", ControlRead::Text},
-    {4, "Val3", ControlRead::Text},
-    {5, "Val4", ControlRead::Text},
-    {6, "Option1", ControlRead::Options},
-    {7, "Option2", ControlRead::Options},
-    {8, "Val5", ControlRead::Text},
-    {9, "Val6", ControlRead::Text},
-    {10, "Val7", ControlRead::Text},
-    {11, "Val8", ControlRead::Text},
-    {12, "Val9", ControlRead::Text},
-    {13, "Val10", ControlRead::Text},
-    {14, "Val11", ControlRead::Text},
-    {15, "Val12", ControlRead::Text},
-    {16, "Val13", ControlRead::Text},
-    {17, "Val14", ControlRead::Text},
-    {18, "Text4", ControlRead::Text},
-    {19, "Text19", ControlRead::Text},
-    {20, "Val15", ControlRead::Text},
-    {21, "Val16", ControlRead::Text},
-    {22, "Val17", ControlRead::Text},
-    {23, "Val18", ControlRead::Text},
-    {24, "Val19", ControlRead::Text},
-    {25, "Val20", ControlRead::Text},
-    {26, "Text1", ControlRead::Text},
-    {27, "Text20", ControlRead::Text},
-    {28, "Text21", ControlRead::Text},
-    {29, "Text22", ControlRead::Text},
-    {30, "Text23", ControlRead::Text},
-    {31, "Text24", ControlRead::Text},
-    {32, "Text25", ControlRead::Text},
-    {33, "Text26", ControlRead::Text},
-    {34, "Text2", ControlRead::Text},
-    {35, "Text5", ControlRead::Text},
-    {36, "Text6", ControlRead::Text},
-    {37, "Text7", ControlRead::Text},
-    {38, "Text8", ControlRead::Text},
-    {39, "Text9", ControlRead::Text},
-    {40, "Text10", ControlRead::Text},
-    {41, "Option4", ControlRead::Options},
-    {42, "Option5", ControlRead::Options},
-    {43, "Check1", ControlRead::State},
-    {44, "Check2", ControlRead::State},
-    {45, "Check3", ControlRead::State},
-    {46, "Text11", ControlRead::Text},
-    {47, "Text12", ControlRead::Text},
-    {48, "Text13", ControlRead::Text},
-    {49, "Text14", ControlRead::Text},
-    {50, "Text18", ControlRead::Text},
-    {51, "Text15", ControlRead::Text},
-}};
-
-// The buttons of the option rows in the order in which they are tested; the
-// first one selected gives the row its value.
-struct ChoiceTest {
-    int row;
-    const char* button;
-    const char* value;
-};
-
-inline constexpr std::array<ChoiceTest, 14> kGeneralChoiceTests = {{
-    {6, "Option1(0)", "0"},
-    {6, "Option1(1)", "1"},
-    {6, "Option1(2)", "2"},
-    {7, "Option2(0)", "0"},
-    {7, "Option2(1)", "1"},
-    {7, "Option2(2)", "2"},
-    {41, "Option4(3)", "0"},
-    {41, "Option4(5)", "1"},
-    {41, "Option4(4)", "2"},
-    {41, "Option4(6)", "3"},
-    {42, "Option5(0)", "FRA"},
-    {42, "Option5(1)", "ENG"},
-    {42, "Option5(2)", "DEU"},
-    {42, "Option5(3)", "ITA"},
-}};
 
 // What the controls hold at the moment of the commit.
 struct GeneralControlState {

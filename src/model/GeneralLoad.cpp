@@ -1,6 +1,5 @@
 #include "model/GeneralLoad.h"
 
-#include "model/GeneralVariableCatalogue.h"
 #include "platform/RegionalNumbers.h"
 
 #include <cmath>
@@ -9,8 +8,9 @@ namespace brimo {
 
 namespace {
 
-bool matches(const StoredChoice& choice, const QString& stored) {
-    if (choice.comparison == StoredComparison::ExactText) return stored == QLatin1String(choice.value);
+// A choice of a text is compared as exact text, any other as a number.
+bool matches(const GeneralChoice& choice, const QString& stored) {
+    if (FindVariableRow(choice.key)->defaultKind == DefaultKind::Txt) return stored == QLatin1String(choice.value);
     const Conversion number = TextToDouble(stored);
     return number.ok() && number.value == QString::fromLatin1(choice.value).toDouble();
 }
@@ -20,7 +20,7 @@ bool matches(const StoredChoice& choice, const QString& stored) {
 QStringList StoredSelections(const GeneralVariables& variables) {
     QStringList buttons;
     QString decidedKey;
-    for (const StoredChoice& choice : kStoredChoices) {
+    for (const GeneralChoice& choice : kGeneralChoices) {
         if (decidedKey == QLatin1String(choice.key)) continue;
         if (!matches(choice, variables.text(QString::fromLatin1(choice.key)))) continue;
         buttons.append(QLatin1String(choice.button));
@@ -42,21 +42,19 @@ QString OptionGroupOf(const QString& button) { return button.section(QLatin1Char
 
 GeneralControlState LoadedControlState(const GeneralVariables& variables) {
     GeneralControlState state;
-    for (const GeneralVariableRow& row : kGeneralVariableCatalogue) {
-        const QString field = QLatin1String(row.field);
-        if (field.startsWith(QLatin1String("Val")) || field.startsWith(QLatin1String("Text")))
-            state.texts.insert(field, variables.text(QLatin1String(row.key)));
-    }
-    for (const char* button : kDesignSelectedOptions) state.selectedOptions.insert(QLatin1String(button));
+    for (const GeneralVariableRow& row : kGeneralVariableCatalogue)
+        if (ReadOf(row.type) == ControlRead::Text) state.texts.insert(QLatin1String(row.field), variables.text(QLatin1String(row.key)));
+    for (const GeneralChoice& choice : kGeneralChoices)
+        if (choice.designSelected) state.selectedOptions.insert(QLatin1String(choice.button));
     // A selected button deselects the others of its group, as option buttons do.
     for (const QString& button : StoredSelections(variables)) {
         const QString group = OptionGroupOf(button);
         erase_if(state.selectedOptions, [&](const QString& other) { return OptionGroupOf(other) == group; });
         state.selectedOptions.insert(button);
     }
-    for (const StoredCheck& stored : kStoredChecks)
-        state.checkStates.insert(QLatin1String(stored.checkBox),
-                                 StoredCheckState(variables.text(QLatin1String(stored.key))).value_or(0));
+    for (const GeneralVariableRow& row : kGeneralVariableCatalogue)
+        if (row.type == ValueType::Flag)
+            state.checkStates.insert(QLatin1String(row.field), StoredCheckState(variables.text(QLatin1String(row.key))).value_or(0));
     return state;
 }
 

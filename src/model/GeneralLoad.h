@@ -4,7 +4,7 @@
 //
 // What Form_Load of CGeneralForm copies from GeneralVariables into its
 // controls: the text fields in their order of filling, the option buttons
-// that stored values select, and the states of the check boxes. The settings
+// that stored values select, and the states of the check boxes of the flags. The settings
 // tool starts from the same controls, so that it writes what the dialog's OK
 // writes right after opening.
 
@@ -27,60 +27,29 @@ inline constexpr std::array<const char*, 44> kLoadedTextFields = {
     "Text9",  "Text10", "Text11", "Text12", "Text13", "Text14", "Text18", "Text15",
 };
 
-// How a stored value is held against a row: as a number, or as exact text.
-enum class StoredComparison { Number, ExactText };
-
-// A stored value and the option button that it selects.
-struct StoredChoice {
-    const char* key;
-    StoredComparison comparison;
-    const char* value;
-    const char* button;
-};
-
-// In the order of the load's steps; within a key, in the order of comparison.
-inline constexpr std::array<StoredChoice, 14> kStoredChoices = {{
-    {"x_def_ounit", StoredComparison::Number, "0", "Option1(0)"},
-    {"x_def_ounit", StoredComparison::Number, "1", "Option1(1)"},
-    {"x_def_ounit", StoredComparison::Number, "2", "Option1(2)"},
-    {"x_def_punit", StoredComparison::Number, "0", "Option2(0)"},
-    {"x_def_punit", StoredComparison::Number, "1", "Option2(1)"},
-    {"x_def_punit", StoredComparison::Number, "2", "Option2(2)"},
-    {"x_chttt", StoredComparison::Number, "0", "Option4(3)"},
-    {"x_chttt", StoredComparison::Number, "1", "Option4(5)"},
-    {"x_chttt", StoredComparison::Number, "2", "Option4(4)"},
-    {"x_chttt", StoredComparison::Number, "3", "Option4(6)"},
-    {"x_lang", StoredComparison::ExactText, "FRA", "Option5(0)"},
-    {"x_lang", StoredComparison::ExactText, "ENG", "Option5(1)"},
-    {"x_lang", StoredComparison::ExactText, "DEU", "Option5(2)"},
-    {"x_lang", StoredComparison::ExactText, "ITA", "Option5(3)"},
-}};
-
-// A stored flag and the check box that shows it.
-struct StoredCheck {
-    const char* key;
-    const char* checkBox;
-};
-
-inline constexpr std::array<StoredCheck, 3> kStoredChecks = {{
-    {"affilogoKVO", "Check1"},
-    {"AffiProfil", "Check2"},
-    {"x_chtlay", "Check3"},
-}};
+// Every text field is filled, and nothing else.
+constexpr bool loadFillsTheTextFields() {
+    std::size_t texts = 0;
+    for (const GeneralVariableRow& row : kGeneralVariableCatalogue) {
+        if (ReadOf(row.type) != ControlRead::Text) continue;
+        ++texts;
+        int filled = 0;
+        for (const char* field : kLoadedTextFields) filled += SameName(field, row.field);
+        if (filled != 1) return false;
+    }
+    return texts == kLoadedTextFields.size();
+}
+static_assert(loadFillsTheTextFields());
 
 // The option buttons to select, in the load's order: one for each key whose
-// stored value matches a row, none for a key that matches no row (its group
-// then stays as the form was designed).
+// stored value matches a row of kGeneralChoices, none for a key that matches
+// no row (its group then stays as the form was designed).
 QStringList StoredSelections(const GeneralVariables& variables);
 
 // The state (0 empty, 1 ticked, 2 grey) that a stored flag gives its check
 // box: the value as a whole number. Nothing for a text that is no number or
 // lies outside 0 to 2; the box then keeps its design state.
 std::optional<int> StoredCheckState(const QString& stored);
-
-// The buttons that the form selects by its design, before any load; the
-// check boxes are empty by design.
-inline constexpr std::array<const char*, 2> kDesignSelectedOptions = {"Option4(4)", "Option5(0)"};
 
 // The controls as Form_Load leaves them: every field with the text form of
 // its variable, each group with the button of its stored value (or of the

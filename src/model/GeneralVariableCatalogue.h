@@ -2,7 +2,10 @@
 // Model layer (src/model): installation settings, legends, variables and
 // Lisp files, without a window; it sees the platform alone.
 //
-// The 51 general variables of section Brimo_Gene, in the order of reading.
+// The 51 general variables of section Brimo_Gene, in the order of reading,
+// each with the control of CGeneralForm that shows it; and the option button
+// that each stored value of a choice selects. The load, the commit, the
+// settings tool and the dialog all read these two tables.
 
 #include <array>
 
@@ -13,6 +16,16 @@ enum class DefaultKind { Int, Dbl, Txt };
 // What the dialogs and the Lisp file make of the value.
 enum class ValueType { Number, Text, Choice, Flag };
 
+// What the commit reads of the control of a value.
+enum class ControlRead {
+    Text,    // the text of a field
+    Options, // which button of an option group is selected
+    State,   // the state of a check box
+};
+constexpr ControlRead ReadOf(ValueType type) {
+    return type == ValueType::Choice ? ControlRead::Options : type == ValueType::Flag ? ControlRead::State : ControlRead::Text;
+}
+
 struct GeneralVariableRow {
     int no;
     const char* key;           // as the load spells it
@@ -20,7 +33,8 @@ struct GeneralVariableRow {
     double defaultNumber;      // Int and Dbl defaults
     const char* defaultText;   // Txt defaults, UTF-8
     ValueType type;
-    const char* field;         // the control of CGeneralForm that shows it
+    const char* field;         // the control of CGeneralForm that shows it: a
+                               // field, a check box or an option group
 };
 
 inline constexpr std::array<GeneralVariableRow, 51> kGeneralVariableCatalogue = {{
@@ -60,7 +74,7 @@ inline constexpr std::array<GeneralVariableRow, 51> kGeneralVariableCatalogue = 
     {34, "x_style_txt15", DefaultKind::Txt, 0, "ROMANS", ValueType::Text, "Text26"},
     {35, "x_style_cot", DefaultKind::Txt, 0, "ROMANS", ValueType::Text, "Text2"},
     {36, "x_chttt", DefaultKind::Int, 2, "", ValueType::Choice, "Option4"},
-    {37, "x_lang", DefaultKind::Txt, 0, "FRA", ValueType::Text, "Option5"},
+    {37, "x_lang", DefaultKind::Txt, 0, "FRA", ValueType::Choice, "Option5"},
     {38, "affilogoKVO", DefaultKind::Int, 1, "", ValueType::Flag, "Check1"},
     {39, "AffiProfil", DefaultKind::Int, 1, "", ValueType::Flag, "Check2"},
     {40, "x_color_zm10", DefaultKind::Int, 1, "", ValueType::Number, "Text5"},
@@ -76,5 +90,68 @@ inline constexpr std::array<GeneralVariableRow, 51> kGeneralVariableCatalogue = 
     {50, "Path_Win6", DefaultKind::Txt, 0, "C:\\PROGRAM FILES\\ADOBE\\ACROBAT\\READER.EXE", ValueType::Text, "Text18"},
     {51, "Path_Win5", DefaultKind::Txt, 0, "", ValueType::Text, "Text15"},
 }};
+
+// A stored value of a choice and the option button that shows it. The load
+// selects the button of the first row whose value matches the stored one (as
+// a number, or as exact text where the default is a text) and none when no
+// row does; the commit writes the value of the selected button. The rows of
+// a key stand together, in the order of comparison, and the keys in the order
+// of the load's steps.
+struct GeneralChoice {
+    const char* key;
+    const char* value;
+    const char* button;
+    bool designSelected; // selected on the form before any load
+};
+
+inline constexpr std::array<GeneralChoice, 14> kGeneralChoices = {{
+    {"x_def_ounit", "0", "Option1(0)", false},
+    {"x_def_ounit", "1", "Option1(1)", false},
+    {"x_def_ounit", "2", "Option1(2)", false},
+    {"x_def_punit", "0", "Option2(0)", false},
+    {"x_def_punit", "1", "Option2(1)", false},
+    {"x_def_punit", "2", "Option2(2)", false},
+    {"x_chttt", "0", "Option4(3)", false},
+    {"x_chttt", "1", "Option4(5)", false},
+    {"x_chttt", "2", "Option4(4)", true},
+    {"x_chttt", "3", "Option4(6)", false},
+    {"x_lang", "FRA", "Option5(0)", true},
+    {"x_lang", "ENG", "Option5(1)", false},
+    {"x_lang", "DEU", "Option5(2)", false},
+    {"x_lang", "ITA", "Option5(3)", false},
+}};
+
+constexpr bool SameName(const char* a, const char* b) {
+    while (*a && *a == *b) ++a, ++b;
+    return *a == *b;
+}
+
+// The row of a key as the load spells it; the catalogue's end for none.
+constexpr const GeneralVariableRow* FindVariableRow(const char* key) {
+    for (const GeneralVariableRow& row : kGeneralVariableCatalogue)
+        if (SameName(row.key, key)) return &row;
+    return kGeneralVariableCatalogue.end();
+}
+
+// The row whose control is `control`; the catalogue's end for none.
+constexpr const GeneralVariableRow* FindVariableShownBy(const char* control) {
+    for (const GeneralVariableRow& row : kGeneralVariableCatalogue)
+        if (SameName(row.field, control)) return &row;
+    return kGeneralVariableCatalogue.end();
+}
+
+// Each choice belongs to a choice of the catalogue, and its button to that
+// choice's option group: "Option4(5)" to "Option4".
+constexpr bool choicesFitTheCatalogue() {
+    for (const GeneralChoice& choice : kGeneralChoices) {
+        const GeneralVariableRow* row = FindVariableRow(choice.key);
+        if (row == kGeneralVariableCatalogue.end() || row->type != ValueType::Choice) return false;
+        const char *group = row->field, *button = choice.button;
+        while (*group && *group == *button) ++group, ++button;
+        if (*group || *button != '(') return false;
+    }
+    return true;
+}
+static_assert(choicesFitTheCatalogue());
 
 } // namespace brimo

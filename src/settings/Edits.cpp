@@ -92,9 +92,9 @@ void ApplyEdits(GeneralControlState& state, const QList<Edit>& edits) {
         case KeyKind::Choice:
             // One button of a group is selected: the one whose test gives the value.
             erase_if(state.selectedOptions, [&](const QString& button) { return button.startsWith(control + QLatin1Char('(')); });
-            for (const ChoiceTest& test : kGeneralChoiceTests)
-                if (QLatin1String(test.button).startsWith(control + QLatin1Char('(')) && edit.value == QLatin1String(test.value))
-                    state.selectedOptions.insert(QLatin1String(test.button));
+            for (const GeneralChoice& choice : kGeneralChoices)
+                if (QLatin1String(choice.button).startsWith(control + QLatin1Char('(')) && edit.value == QLatin1String(choice.value))
+                    state.selectedOptions.insert(QLatin1String(choice.button));
             break;
         }
     }

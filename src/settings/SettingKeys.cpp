@@ -8,22 +8,19 @@ namespace brimo {
 
 namespace {
 
-// The values that a row of the general commit takes from its option group.
-QStringList choicesOfGroup(const QString& group) {
-    int row = 0;
-    for (const CommitSource& source : kGeneralCommitSources)
-        if (group == QLatin1String(source.control)) row = source.row;
+// The values that a choice takes from its option group.
+QStringList choicesOf(const GeneralVariableRow& row) {
     QStringList values;
-    for (const ChoiceTest& test : kGeneralChoiceTests)
-        if (test.row == row) values.append(QString::fromLatin1(test.value));
+    for (const GeneralChoice& choice : kGeneralChoices)
+        if (SameName(choice.key, row.key)) values.append(QString::fromLatin1(choice.value));
     return values;
 }
 
 SettingKey generalKey(const GeneralVariableRow& row) {
     SettingKey key{QString::fromLatin1(row.key), QString::fromLatin1(row.field), KeyKind::FreeText, nullptr, {}};
-    if (key.control.startsWith(QLatin1String("Option"))) { // x_lang is a text held by an option group
+    if (row.type == ValueType::Choice) {
         key.kind = KeyKind::Choice;
-        key.choices = choicesOfGroup(key.control);
+        key.choices = choicesOf(row);
     } else if (row.type == ValueType::Flag) {
         key.kind = KeyKind::Flag;
         key.choices = {QStringLiteral("0"), QStringLiteral("1")};

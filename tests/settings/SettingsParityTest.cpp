@@ -91,9 +91,9 @@ protected:
             if (name.startsWith(QLatin1String("Check")))
                 find<QCheckBox>(name)->setCheckState(value == "1" ? Qt::Checked : Qt::Unchecked);
             else if (name.startsWith(QLatin1String("Option")))
-                for (const ChoiceTest& test : kGeneralChoiceTests)
-                    if (QLatin1String(test.button).startsWith(name + '(') && QLatin1String(test.value) == value)
-                        find<QRadioButton>(QLatin1String(test.button))->setChecked(true);
+                for (const GeneralChoice& choice : kGeneralChoices)
+                    if (QLatin1String(choice.button).startsWith(name + '(') && QLatin1String(choice.value) == value)
+                        find<QRadioButton>(QLatin1String(choice.button))->setChecked(true);
             if (name.startsWith(QLatin1String("Val")) || name.startsWith(QLatin1String("Text")))
                 typeAndLeave(find<QLineEdit>(name), value);
         }

@@ -61,17 +61,10 @@ CGeneralForm::CGeneralForm(Navigator& navigator, const InstallInfo& info, Genera
     for (std::size_t index = 0; index < Option5_.size(); ++index)
         Option5_[index] = controls_.require<QRadioButton>(QStringLiteral("Option5(%1)").arg(index));
     for (const char* name : kLoadedTextFields) fields_.insert(QLatin1String(name), controls_.require<QLineEdit>(QLatin1String(name)));
-    for (const StoredChoice& choice : kStoredChoices)
+    for (const GeneralChoice& choice : kGeneralChoices)
         options_.insert(QLatin1String(choice.button), controls_.require<QRadioButton>(QLatin1String(choice.button)));
-    for (const ChoiceTest& test : kGeneralChoiceTests)
-        options_.insert(QLatin1String(test.button), controls_.require<QRadioButton>(QLatin1String(test.button)));
-    for (const StoredCheck& stored : kStoredChecks)
-        checkBoxes_.insert(QLatin1String(stored.checkBox), controls_.require<QCheckBox>(QLatin1String(stored.checkBox)));
-    for (const CommitSource& source : kGeneralCommitSources) {
-        const QString name = QLatin1String(source.control);
-        if (source.read == ControlRead::Text) fields_.insert(name, controls_.require<QLineEdit>(name));
-        if (source.read == ControlRead::State) checkBoxes_.insert(name, controls_.require<QCheckBox>(name));
-    }
+    for (const GeneralVariableRow& row : kGeneralVariableCatalogue)
+        if (row.type == ValueType::Flag) checkBoxes_.insert(QLatin1String(row.field), controls_.require<QCheckBox>(QLatin1String(row.field)));
 
     // The focus starts on the control of tab index 0.
     cmdOK_->setFocus();
@@ -106,16 +99,17 @@ void CGeneralForm::Form_Load() {
     const GeneralVariables& variables = variables_;
     for (const char* name : kLoadedTextFields) {
         QLineEdit* field = fields_.value(QLatin1String(name));
-        field->setText(variables.text(QString::fromLatin1(FindGeneralControl(QLatin1String(name))->key)));
+        field->setText(variables.text(QLatin1String(FindVariableShownBy(name)->key)));
         field->setCursorPosition(0); // a long text shows its beginning
     }
 
     // Selecting a language other than the design's raises Option5_Click here.
     for (const QString& button : StoredSelections(variables)) options_.value(button)->setChecked(true);
 
-    for (const StoredCheck& stored : kStoredChecks)
-        if (const std::optional<int> value = StoredCheckState(variables.text(QString::fromLatin1(stored.key))))
-            checkBoxes_.value(QLatin1String(stored.checkBox))->setCheckState(checkStateOf(*value));
+    for (const GeneralVariableRow& row : kGeneralVariableCatalogue)
+        if (row.type == ValueType::Flag)
+            if (const std::optional<int> value = StoredCheckState(variables.text(QLatin1String(row.key))))
+                checkBoxes_.value(QLatin1String(row.field))->setCheckState(checkStateOf(*value));
 
     CentreOnScreen(this);
     // What OK compares with, to keep what another program writes meanwhile
@@ -200,15 +194,15 @@ void CGeneralForm::sweepTabs(std::span<const SweepStep> steps) {
 
 GeneralControlState CGeneralForm::controlState() const {
     GeneralControlState state;
-    for (const CommitSource& source : kGeneralCommitSources) {
-        const QString name = QLatin1String(source.control);
-        switch (source.read) {
+    for (const GeneralVariableRow& row : kGeneralVariableCatalogue) {
+        const QString name = QLatin1String(row.field);
+        switch (ReadOf(row.type)) {
         case ControlRead::Text: state.texts.insert(name, fields_.value(name)->text()); break;
         case ControlRead::State: state.checkStates.insert(name, checkValue(checkBoxes_.value(name)->checkState())); break;
         case ControlRead::Options:
-            for (const ChoiceTest& test : kGeneralChoiceTests)
-                if (test.row == source.row && options_.value(QLatin1String(test.button))->isChecked())
-                    state.selectedOptions.insert(QLatin1String(test.button));
+            for (const GeneralChoice& choice : kGeneralChoices)
+                if (SameName(choice.key, row.key) && options_.value(QLatin1String(choice.button))->isChecked())
+                    state.selectedOptions.insert(QLatin1String(choice.button));
             break;
         }
     }
@@ -216,18 +210,18 @@ GeneralControlState CGeneralForm::controlState() const {
 }
 
 void CGeneralForm::showControlState(const GeneralControlState& state) {
-    for (const CommitSource& source : kGeneralCommitSources) {
-        const QString name = QLatin1String(source.control);
-        switch (source.read) {
+    for (const GeneralVariableRow& row : kGeneralVariableCatalogue) {
+        const QString name = QLatin1String(row.field);
+        switch (ReadOf(row.type)) {
         case ControlRead::Text:
             if (fields_.value(name)->text() != state.texts.value(name)) fields_.value(name)->setText(state.texts.value(name));
             break;
         case ControlRead::State: checkBoxes_.value(name)->setCheckState(checkStateOf(state.checkStates.value(name))); break;
         case ControlRead::Options:
-            for (const ChoiceTest& test : kGeneralChoiceTests) {
-                QRadioButton* button = options_.value(QLatin1String(test.button));
-                const bool selected = state.selectedOptions.contains(QLatin1String(test.button));
-                if (test.row != source.row || button->isChecked() == selected) continue;
+            for (const GeneralChoice& choice : kGeneralChoices) {
+                QRadioButton* button = options_.value(QLatin1String(choice.button));
+                const bool selected = state.selectedOptions.contains(QLatin1String(choice.button));
+                if (!SameName(choice.key, row.key) || button->isChecked() == selected) continue;
                 // A group may end with no button selected, as a stored value
                 // outside its choices loads it.
                 button->setAutoExclusive(selected);

@@ -27,7 +27,8 @@ enum class ControlKind {
     Shape,    // a plain rectangle
 };
 
-enum class DesignState { Plain, Selected, Disabled };
+// The option buttons selected by design are those of kGeneralChoices.
+enum class DesignState { Plain, Disabled };
 
 // The tab of the buttons below the tabs, which stand on the form itself.
 inline constexpr int kOnForm = -1;
@@ -38,13 +39,9 @@ struct ControlRow {
     ControlKind kind;
     const char* parent;  // a frame of the same tab; "" for the tab (or the form)
     const char* caption; // caption or text at design time, UTF-8
-    const char* key;     // the variable of GeneralVariables shown; "" for none
     int left, top, width, height; // twips inside the parent
     DesignState state;
 };
-
-// The row of a control of any table, or nullptr.
-const ControlRow* FindGeneralControl(QAnyStringView name);
 
 struct GeneralControls {
     QTabWidget* tabs = nullptr;       // SSTab1
