@@ -2,16 +2,13 @@
 
 #include "platform/FileAccess.h"
 #include "platform/WindowsPaths.h"
+#include "settings/CommandTable.h"
 
 #include <QCommandLineParser>
 
 namespace brimo {
 
 namespace {
-
-const QStringList kCommands = {QStringLiteral("get"),     QStringLiteral("set"),     QStringLiteral("export"),
-                               QStringLiteral("apply"),   QStringLiteral("history"), QStringLiteral("restore"),
-                               QStringLiteral("help"),    QStringLiteral("version")};
 
 // One prefix a line; blank lines and lines starting with '#' are skipped.
 bool readPrefixList(const QString& file, QStringList& prefixes, QString* error) {
@@ -27,41 +24,50 @@ bool readPrefixList(const QString& file, QStringList& prefixes, QString* error) 
     return true;
 }
 
+constexpr OptionRow kOptions[] = {
+    {"dialog", "", "general|slope", "the dialog whose keys get and set use (general)"},
+    {"json", "", "", "get, set, apply, restore, history: print one JSON\ndocument (set, apply, restore: per prefix the\n"
+                     "user, changed, keys with old and new values,\nfiles, error)"},
+    {"origin", "", "", "get: put \"stored\" or \"default\" and a tab in front"},
+    {"check", "", "", "set, apply, restore: report what would change,\nwrite nothing"},
+    {"detailed-exitcodes", "", "", "exit statuses as Puppet's option of that name"},
+    {"prefix", "", "DIR", "a Wine prefix in place of $WINEPREFIX (repeatable)"},
+    {"prefixes-from", "", "FILE", "prefixes from FILE, one a line ('#' starts a comment)"},
+    {"user", "", "NAME", "the user in place of [Users] actuel of zorel.ini"},
+    {"help", "h", "", "this text"},
+    {"help-all", "", "", "this text and every option as Qt lists them"},
+    {"version", "", "", "the version"},
+};
+
 struct Parser {
     QCommandLineParser parser;
-    QCommandLineOption help{{QStringLiteral("h"), QStringLiteral("help")}, QStringLiteral("Show the usage.")};
-    QCommandLineOption helpAll{QStringLiteral("help-all"), QStringLiteral("Show the usage and every option.")};
-    QCommandLineOption version{QStringLiteral("version"), QStringLiteral("Show the version.")};
-    QCommandLineOption dialog{QStringLiteral("dialog"),
-                              QStringLiteral("The dialog whose keys get and set use: general (default) or slope."),
-                              QStringLiteral("general|slope")};
-    QCommandLineOption json{QStringLiteral("json"), QStringLiteral("get, set, apply, restore, history: print one JSON document.")};
-    QCommandLineOption origin{QStringLiteral("origin"),
-                              QStringLiteral("get: put \"stored\" or \"default\" and a tab in front.")};
-    QCommandLineOption check{QStringLiteral("check"),
-                             QStringLiteral("set, apply, restore: report what would change, write nothing.")};
-    QCommandLineOption detailed{QStringLiteral("detailed-exitcodes"),
-                                QStringLiteral("Exit 0 no change, 2 changes, 4 failures, 6 changes and "
-                                               "failures, 1 refused (as Puppet's).")};
-    QCommandLineOption prefix{QStringLiteral("prefix"), QStringLiteral("A Wine prefix in place of $WINEPREFIX (repeatable)."),
-                              QStringLiteral("DIR")};
-    QCommandLineOption prefixesFrom{QStringLiteral("prefixes-from"),
-                                    QStringLiteral("Prefixes from FILE, one a line ('#' starts a comment)."),
-                                    QStringLiteral("FILE")};
-    QCommandLineOption user{QStringLiteral("user"), QStringLiteral("The user in place of [Users] actuel of zorel.ini."),
-                            QStringLiteral("NAME")};
-
     Parser() {
         parser.setApplicationDescription(QStringLiteral("The settings of Brimo's dialogs from the command line."));
-        parser.addOptions({help, helpAll, version, dialog, json, origin, check, detailed, prefix, prefixesFrom, user});
-        parser.addPositionalArgument(QStringLiteral("command"),
-                                     QStringLiteral("get, set, export, apply, history, restore, help, version"));
-        parser.addPositionalArgument(QStringLiteral("arguments"), QStringLiteral("KEY, KEY=VALUE, FILE or N"),
+        for (const OptionRow& row : kOptions) {
+            QStringList names{QLatin1String(row.name)};
+            if (*row.shortName) names.prepend(QLatin1String(row.shortName));
+            parser.addOption({names, QString::fromUtf8(row.description).replace(QLatin1Char('\n'), QLatin1Char(' ')) + QLatin1Char('.'),
+                              QLatin1String(row.value)});
+        }
+        QStringList commands;
+        for (const CommandRow& row : kCommandTable) commands.append(QLatin1String(row.name));
+        parser.addPositionalArgument(QStringLiteral("command"), commands.join(QStringLiteral(", ")));
+        parser.addPositionalArgument(QStringLiteral("arguments"), QStringLiteral("KEY, KEY=VALUE, FILE, N or COMMAND"),
                                      QStringLiteral("[ARGUMENT...]"));
     }
+    bool isSet(const char* name) const { return parser.isSet(QLatin1String(name)); }
 };
 
 } // namespace
+
+QString OptionRow::spelling() const { return QStringLiteral("--") + QLatin1String(name); }
+
+QString OptionRow::term() const {
+    QString term = *shortName ? QStringLiteral("-%1, ").arg(QLatin1String(shortName)) + spelling() : spelling();
+    return *value ? term + QLatin1Char(' ') + QLatin1String(value) : term;
+}
+
+std::span<const OptionRow> OptionTable() { return kOptions; }
 
 std::optional<Options> ParseOptions(const QStringList& arguments, QString* error) {
     Parser p;
@@ -72,19 +78,23 @@ std::optional<Options> ParseOptions(const QStringList& arguments, QString* error
     Options options;
     options.arguments = p.parser.positionalArguments();
     if (!options.arguments.isEmpty()) options.command = options.arguments.takeFirst();
-    if (p.parser.isSet(p.help) || p.parser.isSet(p.helpAll)) options.command = QStringLiteral("help");
-    else if (p.parser.isSet(p.version)) options.command = QStringLiteral("version");
-    options.helpAll = p.parser.isSet(p.helpAll);
-    options.json = p.parser.isSet(p.json);
-    options.origin = p.parser.isSet(p.origin);
-    options.check = p.parser.isSet(p.check);
-    options.detailedExitCodes = p.parser.isSet(p.detailed);
-    options.prefixes = p.parser.values(p.prefix);
-    for (const QString& file : p.parser.values(p.prefixesFrom))
+    // "set --help" is the help of set.
+    if (p.isSet("help") || p.isSet("help-all")) {
+        options.arguments = options.command.isEmpty() || options.command == QLatin1String("help") ? options.arguments
+                                                                                                   : QStringList{options.command};
+        options.command = QStringLiteral("help");
+    } else if (p.isSet("version")) options.command = QStringLiteral("version");
+    options.helpAll = p.isSet("help-all");
+    options.json = p.isSet("json");
+    options.origin = p.isSet("origin");
+    options.check = p.isSet("check");
+    options.detailedExitCodes = p.isSet("detailed-exitcodes");
+    options.prefixes = p.parser.values(QStringLiteral("prefix"));
+    for (const QString& file : p.parser.values(QStringLiteral("prefixes-from")))
         if (!readPrefixList(file, options.prefixes, error)) return std::nullopt;
-    if (p.parser.isSet(p.user)) options.user = p.parser.value(p.user);
-    if (p.parser.isSet(p.dialog)) {
-        const QString dialog = p.parser.value(p.dialog);
+    if (p.isSet("user")) options.user = p.parser.value(QStringLiteral("user"));
+    if (p.isSet("dialog")) {
+        const QString dialog = p.parser.value(QStringLiteral("dialog"));
         if (dialog == QLatin1String("general")) options.section = SettingSection::General;
         else if (dialog == QLatin1String("slope")) options.section = SettingSection::Slope;
         else {
@@ -93,7 +103,7 @@ std::optional<Options> ParseOptions(const QStringList& arguments, QString* error
         }
     }
     if (options.command.isEmpty()) options.command = QStringLiteral("help");
-    if (!kCommands.contains(options.command)) {
+    if (!FindCommand(options.command)) {
         *error = QStringLiteral("%1: no such command").arg(options.command);
         return std::nullopt;
     }

@@ -10,6 +10,7 @@
 #include <QStringList>
 
 #include <optional>
+#include <span>
 
 namespace brimo {
 
@@ -25,6 +26,17 @@ struct Options {
     QStringList prefixes;                 // empty: the environment's
     std::optional<QString> user;
 };
+
+// An option of the command line, as the usage and QCommandLineParser show it.
+struct OptionRow {
+    const char* name;        // without "--"
+    const char* shortName;   // "h", or ""
+    const char* value;       // the name of its value, or "" for a switch
+    const char* description; // in lines of the usage's width
+    QString spelling() const; // "--dialog"
+    QString term() const;     // "-h, --help", "--dialog general|slope"
+};
+std::span<const OptionRow> OptionTable();
 
 // The options of `arguments` (without the program's name), or nothing with
 // `error` saying what is wrong.
