@@ -50,12 +50,17 @@ writer() { # KEY VALUE-PREFIX [SET-OPTIONS...]
   local key=$1 base=$2; shift 2
   for i in $(seq 1 "$rounds"); do set_ok "$@" "$key=$base$i" || echo "$key round $i failed" >> "$E2E_DIR/failures.log"; done
 }
+# Two loops side by side, the second with SET-OPTIONS: every run succeeds.
+two_writers() { # WHEN A B [SET-OPTIONS...]
+  local when=$1 first=$2 second=$3; shift 3
+  writer x_nom_bureau "$first" & a=$!
+  writer x_tel_bureau "$second" "$@" & b=$!
+  wait "$a" "$b"
+  [ ! -s "$E2E_DIR/failures.log" ] || fail "$when: $(cat "$E2E_DIR/failures.log")"
+  expect_value x_nom_bureau "$first$rounds"
+}
 start=$(now_ms)
-writer x_nom_bureau A & a=$!
-writer x_tel_bureau B & b=$!
-wait "$a" "$b"
-[ ! -s "$E2E_DIR/failures.log" ] || fail "$(cat "$E2E_DIR/failures.log")"
-expect_value x_nom_bureau "A$rounds"
+two_writers "side by side" A B
 expect_value x_tel_bureau "B$rounds"
 expect_nothing_left
 echo "two loops of $rounds set runs side by side: $(($(now_ms) - start)) ms, every run succeeded"
@@ -130,11 +135,7 @@ if [ "$(id -u)" = 0 ]; then
   install -m 0444 /dev/null "$lock"
   settings_as_user() { runuser -u nobody -- "$settings_real" "$@"; }
   settings_real=$settings settings=settings_as_user
-  writer x_nom_bureau C & a=$!
-  writer x_tel_bureau D & b=$!
-  wait "$a" "$b"
-  [ ! -s "$E2E_DIR/failures.log" ] || fail "beside a lock file of mode 0444: $(cat "$E2E_DIR/failures.log")"
-  expect_value x_nom_bureau "C$rounds"
+  two_writers "beside a lock file of mode 0444" C D
   expect_value x_tel_bureau "D$rounds"
   expect_nothing_left
   install -m 0000 /dev/null "$lock"
@@ -166,11 +167,7 @@ cp "$WINEPREFIX/drive_c/windows/zorel.ini" "$second/drive_c/windows/"
 folder2=$second/drive_c/Zorel/Var/jo
 mkdir -p "$folder2"
 ln -s "$ini" "$folder2/Brimo.ini"
-writer x_nom_bureau E & a=$!
-writer x_tel_bureau F --prefix "$second" & b=$!
-wait "$a" "$b"
-[ ! -s "$E2E_DIR/failures.log" ] || fail "a Brimo.ini shared through a link: $(cat "$E2E_DIR/failures.log")"
-expect_value x_nom_bureau "E$rounds"
+two_writers "a Brimo.ini shared through a link" E F --prefix "$second"
 grep -q -a -x "x_tel_bureau=F$rounds"$'\r' "$ini" || fail "Brimo.ini: x_tel_bureau is not F$rounds"
 grep -q -a -F "(setq x_tel_bureau \"F$rounds\")" "$folder2/Brimo_Gene.lsp" || fail "the second Brimo_Gene.lsp: x_tel_bureau is not F$rounds"
 [ -L "$folder2/Brimo.ini" ] || fail "the link was replaced"
