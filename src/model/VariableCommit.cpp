@@ -29,10 +29,9 @@ QString lockIn(const QString& folder) { return folder + QStringLiteral("/Brimo.i
 
 // The folders whose files a commit or a recovery in the folder of Brimo.ini
 // touches: that folder, and the folder that each of the user's files leads
-// to when it is a link; each once, in
-// the order of their identity on the disk (device, then inode), which every
-// process sees alike, however it reaches them. A folder that does not exist
-// comes last.
+// to when it is a link; each once, in the order of their identity on the disk
+// (device, then inode), which every process sees alike, however it reaches
+// them. A folder that does not exist comes last.
 QStringList foldersToLock(const QString& nativeIni) {
     const QString folder = QFileInfo(nativeIni).absolutePath();
     QStringList folders{folder};
