@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
 # Start-up time of Brimo2010 up to its first window on the screen (the
 # chooser, or the dialog of WORD), against a minimal Qt Widgets program that
-# shows one empty dialog, under Xvfb.
+# shows one dialog with a line of words, under Xvfb.
 #   bench/startup/startup.sh BUILD_DIR [RUNS] [WORD]
 # Each run takes a timestamp, starts the program and waits for the X server
 # to report the mapping of its window (xev on the root window: one
@@ -10,8 +10,8 @@ set -euo pipefail
 build=$(cd "$1" && pwd)
 runs=${2:-15}
 word=${3:-}
-goal=1.30
-[ -n "$word" ] && goal=1.50
+goal=0.90
+[ -n "$word" ] && goal=1.10
 brimo=$build/src/app/Brimo2010
 minimal=$build/bench/startup/minimal_dialog
 here=$(cd "$(dirname "$0")" && pwd)

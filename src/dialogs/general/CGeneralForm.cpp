@@ -179,17 +179,23 @@ void CGeneralForm::ProgramLocation_Click(const ProgramLocation& location) {
     field->setCursorPosition(0);
 }
 
+// The names for screen readers follow the captions: once the window is on
+// the screen (its first showing names every control), and once a sweep of
+// the tabs is over.
 void CGeneralForm::setCaptions(std::span<const CaptionRow> rows) {
     for (const CaptionRow& row : rows)
         SetCaption(controls_.byName.value(QLatin1String(row.control)), legends_.GetLegends(row.legend));
-    NameControls(this);
+    if (isVisible() && !sweeping_) NameControls(this);
 }
 
 void CGeneralForm::sweepTabs(std::span<const SweepStep> steps) {
+    sweeping_ = true;
     for (const SweepStep& step : steps) {
         controls_.tabs->setCurrentIndex(step.tab);
         controls_.tabs->setTabText(controls_.tabs->currentIndex(), legends_.GetLegends(step.legend));
     }
+    sweeping_ = false;
+    if (isVisible()) NameControls(this);
 }
 
 GeneralControlState CGeneralForm::controlState() const {

@@ -65,6 +65,7 @@ private:
     QHash<QString, QLineEdit*> fields_;
     QHash<QString, QRadioButton*> options_;
     QHash<QString, QCheckBox*> checkBoxes_;
+    bool sweeping_ = false; // the tabs pass by: their captions change in turn
     GeneralVariables loadedFrom_;
     GeneralControlState loaded_;
 };
