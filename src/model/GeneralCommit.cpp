@@ -109,7 +109,7 @@ GeneralCommitOutcome CommitGeneral(const InstallInfo& info, const GeneralEdit& e
     CommitPlan plan(lock);
     GeneralCommitOutcome outcome;
     const PlannedGeneralCommit planned = PlanGeneralCommit(plan, info, edit);
-    static_cast<CommitOutcome&>(outcome) = planned.unwritable ? CommitOutcome{false} : plan.write();
+    static_cast<CommitOutcome&>(outcome) = planned.unwritable ? CommitOutcome{false, {}, {}, false} : plan.write();
     outcome.unwritable = planned.unwritable;
     // Brimo.ini unread (a lock not had, a file that cannot be read): the
     // merge knew nothing of what is stored now.

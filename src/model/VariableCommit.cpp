@@ -61,7 +61,7 @@ QStringList foldersToLock(const QString& nativeIni) {
 // of a file that could not be written.
 CommitOutcome writeWithHistory(const QString& nativeIni, const QList<FileToWrite>& planned,
                                const QString& what, const QStringList& changedKeys) {
-    HistoryEntry entry{0, QDateTime::currentDateTimeUtc(), CommitProgramName(), what, changedKeys, {}};
+    HistoryEntry entry{0, QDateTime::currentDateTimeUtc(), CommitProgramName(), what, changedKeys, {}, {}};
     bool changes = false;
     for (const FileToWrite& file : planned) {
         const std::optional<QByteArray> before = ReadWholeFile(file.nativePath);
