@@ -78,6 +78,14 @@ inline constexpr std::array<GeneLispRow, 51> kGeneLispCatalogue = {{
 // The variable that a row writes, and so the control it reads.
 constexpr const GeneralVariableRow& VariableOf(const GeneLispRow& row) { return *FindVariableRow(row.variable); }
 
+// Row N stands at index N - 1: the fixed lines name their rows by number.
+constexpr bool rowsNumberedInOrder() {
+    for (std::size_t i = 0; i < kGeneLispCatalogue.size(); ++i)
+        if (kGeneLispCatalogue[i].row != static_cast<int>(i) + 1) return false;
+    return true;
+}
+static_assert(rowsNumberedInOrder());
+
 // Every variable is written by one row.
 constexpr bool rowsWriteEveryVariableOnce() {
     for (const GeneralVariableRow& variable : kGeneralVariableCatalogue) {
