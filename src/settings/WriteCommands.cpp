@@ -104,10 +104,6 @@ QJsonObject jsonOf(const PrefixReport& report) {
 }
 
 void printText(const PrefixReport& report, bool check) {
-    if (!report.error.isEmpty()) {
-        Complain(QStringLiteral("%1: %2").arg(report.prefix, report.error));
-        return;
-    }
     if (!report.changed) {
         Print(QStringLiteral("%1: already so\n").arg(Printable(report.prefix)));
         return;
@@ -165,8 +161,12 @@ RunResult reportEverywhere(const Options& options, const QStringList& refusals,
             // nothing): no key and no file changed there.
             if (!report.error.isEmpty()) report = {report.prefix, report.user, false, {}, {}, report.error};
             if (options.json) prefixes.append(jsonOf(report));
-            else printText(report, options.check);
-            if (!report.error.isEmpty()) return false;
+            // A failure is said on the standard error in both forms.
+            if (!report.error.isEmpty()) {
+                Complain(QStringLiteral("%1: %2").arg(report.prefix, report.error));
+                return false;
+            }
+            if (!options.json) printText(report, options.check);
             (report.changed ? result.changed : alreadySo) += 1;
             return true;
         }, [&](const QString& prefix, const QString& error) {
