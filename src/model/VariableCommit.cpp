@@ -114,19 +114,23 @@ UserFolderLock::UserFolderLock(const WinePrefix& prefix, const QString& iniPath)
     if (recovery_ != Recovery::Failed) RecoverHistory(nativeIni_, recovery_ == Recovery::RolledForward);
 }
 
+const FolderLock* UserFolderLock::firstNotHeld() const {
+    for (const auto& lock : locks_)
+        if (lock->state() != FolderLock::State::Held) return lock.get();
+    return nullptr;
+}
+
 FolderLock::State UserFolderLock::state() const {
     if (locks_.empty()) return FolderLock::State::Unavailable; // not even its owner's rights
-    for (const auto& lock : locks_)
-        if (lock->state() != FolderLock::State::Held) return lock->state();
-    return FolderLock::State::Held;
+    const FolderLock* lock = firstNotHeld();
+    return lock ? lock->state() : FolderLock::State::Held;
 }
 
 CommitOutcome UserFolderLock::failure() const {
-    if (locks_.empty()) return {false, iniPath_, owner_.error()};
-    for (const auto& lock : locks_)
-        if (lock->state() != FolderLock::State::Held)
-            return {false, iniPath_, lock->why(), lock->state() == FolderLock::State::Busy};
-    return {};
+    if (locks_.empty()) return {false, iniPath_, owner_.error(), false};
+    const FolderLock* lock = firstNotHeld();
+    if (!lock) return {};
+    return {false, iniPath_, lock->why(), lock->state() == FolderLock::State::Busy};
 }
 
 CommitPlan::CommitPlan(const UserFolderLock& lock)
@@ -193,24 +197,20 @@ CommitOutcome CommitVariables(const WinePrefix& prefix, const QString& lispPath,
     return plan.write();
 }
 
-CommitOutcome RestoreHistoryEntry(const UserFolderLock& lock, int number, HistoryEntry* restored) {
+CommitOutcome RestoreHistoryEntry(const UserFolderLock& lock, const HistoryEntry& entry) {
     if (lock.state() != FolderLock::State::Held) return lock.failure();
     const QString nativeIni = lock.nativeIniPath();
-    QString error;
-    const std::optional<HistoryEntry> entry = ReadHistoryEntry(nativeIni, number, &error);
-    if (!entry) return {false, HistoryFolder(nativeIni), error};
-    if (restored) *restored = *entry;
     // Each file gets its bytes back; one that did not exist before that
     // commit goes.
     const QString folder = QFileInfo(nativeIni).absolutePath() + QLatin1Char('/');
     QList<FileToWrite> planned;
     QByteArray iniAfter = ReadWholeFile(nativeIni).value_or(QByteArray());
     const QByteArray iniBefore = iniAfter;
-    for (const KeptFile& file : entry->files) {
+    for (const KeptFile& file : entry.files) {
         planned.append({folder + file.name, file.bytes});
         if (folder + file.name == nativeIni) iniAfter = file.bytes.value_or(QByteArray());
     }
-    CommitOutcome outcome = writeWithHistory(nativeIni, planned, QStringLiteral("restore %1").arg(entry->number),
+    CommitOutcome outcome = writeWithHistory(nativeIni, planned, QStringLiteral("restore %1").arg(entry.number),
                                              ChangedKeys(iniBefore, iniAfter));
     if (!outcome.ok && outcome.file == nativeIni) outcome.file = lock.iniPath();
     return outcome;

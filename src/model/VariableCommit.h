@@ -72,6 +72,7 @@ private:
     QString iniPath_, nativeIni_;
     ActingAsPrefixOwner owner_; // first made, last undone
     std::vector<std::unique_ptr<FolderLock>> locks_;
+    const FolderLock* firstNotHeld() const;
     Recovery recovery_ = Recovery::Nothing;
 };
 
@@ -122,10 +123,10 @@ private:
 CommitOutcome CommitVariables(const WinePrefix& prefix, const QString& lispPath, const QString& iniPath, const QString& section,
                               const QList<CommittedRow>& rows);
 
-// Brings back the files of history entry `number` (0: the last one) in the
-// folder of the lock, as one commit that the history records in turn
-// ("restore N"). `restored` gets the entry brought back.
-CommitOutcome RestoreHistoryEntry(const UserFolderLock& lock, int number, HistoryEntry* restored = nullptr);
+// Brings back the files of a history entry that ReadHistoryEntry read, in
+// the folder of the lock, as one commit that the history records in turn
+// ("restore N").
+CommitOutcome RestoreHistoryEntry(const UserFolderLock& lock, const HistoryEntry& entry);
 
 // Finishes or undoes a commit that a kill or a power loss cut off in the
 // folder of Brimo.ini, under its lock (left alone when another program keeps

@@ -230,7 +230,7 @@ PrefixReport restoreOnPrefix(const Options& options, int number, const WinePrefi
     }
     report.changed = !report.files.isEmpty();
     if (report.changed && !options.check) {
-        const CommitOutcome outcome = RestoreHistoryEntry(user.lock(), entry->number);
+        const CommitOutcome outcome = RestoreHistoryEntry(user.lock(), *entry);
         if (!outcome.ok) report.error = QStringLiteral("%1: %2").arg(outcome.file, outcome.reason);
     }
     return report;

@@ -86,14 +86,18 @@ open_dialog() {
   xdotool windowfocus --sync "$window"
   sleep 0.5
 }
+# The layer name typed into the open dialog, then OK, which ends it with 0.
+layer_and_ok() { # LAYER
+  e2e_keys Tab
+  e2e_type "$1"
+  e2e_keys Return
+  status=$(e2e_wait_exit)
+  [ "$status" = 0 ] || fail "the dialog's OK ended with $status"
+  expect_value cadre_layer "$1"
+}
 open_dialog
 set_ok x_nom_bureau=Admin || fail "set while the dialog is open"
-e2e_keys Tab
-e2e_type "CALQUE9"
-e2e_keys Return
-status=$(e2e_wait_exit)
-[ "$status" = 0 ] || fail "the dialog's OK ended with $status"
-expect_value cadre_layer CALQUE9
+layer_and_ok CALQUE9
 expect_value x_nom_bureau Admin
 expect_value x_tel_bureau "B$rounds"
 expect_nothing_left
@@ -148,12 +152,7 @@ if [ "$(id -u)" = 0 ]; then
   rm "$lock"
   settings=$settings_real
   open_dialog
-  e2e_keys Tab
-  e2e_type "CALQUE7"
-  e2e_keys Return
-  status=$(e2e_wait_exit)
-  [ "$status" = 0 ] || fail "the dialog's OK as root ended with $status"
-  expect_value cadre_layer CALQUE7
+  layer_and_ok CALQUE7
   owners=$(stat -c %U "$ini" "$lisp" "$folder/Brimo.history" "$folder"/Brimo.history/* | sort -u)
   [ "$owners" = nobody ] || fail "the dialog run as root left files owned by $owners"
   echo "as an ordinary user beside another user's lock file: every run succeeded"
