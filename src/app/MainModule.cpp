@@ -1,6 +1,7 @@
 #include "app/MainModule.h"
 
 #include "app/CommandWord.h"
+#include "app/StartProblems.h"
 #include "dialogs/about/CAboutForm.h"
 #include "dialogs/chooser/CChoixForm.h"
 #include "dialogs/drawing/CVarGlobale.h"
@@ -8,13 +9,15 @@
 #include "dialogs/slope/CParamRechTalus.h"
 #include "forms/DesignFont.h"
 #include "forms/MessageBoxLegendQuestion.h"
+#include "model/FailureText.h"
+#include "model/ProgramLanguage.h"
 #include "model/UserLegends.h"
 #include "model/VariableCommit.h"
 
 #include <QApplication>
+#include <QTimer>
 
 #include <cstdio>
-#include <utility>
 
 #include <unistd.h>
 
@@ -121,27 +124,37 @@ int Main(int argc, char* argv[]) {
     QApplication::setFont(DesignFont());
 
     MainModule module;
-    // A file that is there but cannot be read is told on stderr, and the
-    // dialog opens as without it; its commit then refuses that file.
-    const auto report = [](const QString& error) {
-        if (!error.isEmpty()) std::fprintf(stderr, "Brimo2010: %s\n", error.toLocal8Bit().constData());
-    };
-    QString error;
-    LoadInstallInfo(WinePrefix::FromEnvironment(), module.installInfo, &error);
-    report(std::exchange(error, {}));
+    // A file that is there but cannot be read is told, and the dialog opens
+    // as without it; its commit then refuses that file.
+    Failure zorelIni;
+    LoadInstallInfo(WinePrefix::FromEnvironment(), module.installInfo, &zorelIni);
+    if (zorelIni)
+        std::fprintf(stderr, "Brimo2010: %s: %s\n", ZorelIniPath().toLocal8Bit().constData(),
+                     FailureText(zorelIni, Wording::English).toLocal8Bit().constData());
+    StartProblems problems;
     // A commit cut off by a kill is finished or undone before Brimo.ini is read.
-    RecoverInterruptedCommit(module.installInfo);
-    LoadGeneralVariables(module.installInfo, module.generalVariables, &error);
+    problems.recovered(BrimoIniPath(module.installInfo), RecoverInterruptedCommit(module.installInfo));
+    Failure brimoIni;
+    LoadGeneralVariables(module.installInfo, module.generalVariables, &brimoIni);
+    if (brimoIni) problems.iniUnreadable(BrimoIniPath(module.installInfo), brimoIni);
     module.storedGeneralVariables = module.generalVariables;
-    report(error);
+    // The program speaks the user's language; without Brimo.ini to say it,
+    // the language of the desktop.
+    SetProgramLanguage(brimoIni ? LanguageOfEnvironment() : module.generalVariables.text(u"x_lang"));
     module.LoadLegends();
 
+    BrimoForm* first = nullptr;
     switch (DialogForCommandLine(commandLine)) {
-    case StartDialog::SlopeSearch: module.Show<CParamRechTalus>(); break;
-    case StartDialog::General: module.Show<CGeneralForm>(); break;
-    case StartDialog::About: module.Show<CAboutForm>(); break;
-    case StartDialog::Chooser: module.Show<CChoixForm>(); break;
+    case StartDialog::SlopeSearch: first = module.Show<CParamRechTalus>(); break;
+    case StartDialog::General: first = module.Show<CGeneralForm>(); break;
+    case StartDialog::About: first = module.Show<CAboutForm>(); break;
+    case StartDialog::Chooser: first = module.Show<CChoixForm>(); break;
     }
+    // Told once the window stands, so that the box has a window to belong to.
+    if (problems.any())
+        QTimer::singleShot(0, first, [first, text = problems.text()] {
+            first->messageBoxes().ShowInformationBox(text, QStringLiteral("Brimo"));
+        });
     return app.exec();
 }
 

@@ -10,14 +10,15 @@
 
 namespace brimo {
 
-// One message naming the file and the reason, then the end of the process
+// One message in the program's language naming the file and the reason,
+// then the end of the process
 // with a non-zero status. Nothing of either file has changed by then. When
 // another program was writing the files, the dialog stays open instead, with
 // its edits, so that OK can be pressed again.
 void ReportCommitFailure(BrimoForm& form, Navigator& navigator, const CommitOutcome& outcome);
 
-// The refusal of a field whose double quote would end its Lisp string, in
-// French and in English, naming the field.
-QString UnwritableQuoteMessage(const UnwritableField& field);
+// The refusal of a field whose double quote would end its Lisp string,
+// naming the field by the caption that the user sees beside it.
+QString UnwritableQuoteMessage(const QString& caption);
 
 } // namespace brimo

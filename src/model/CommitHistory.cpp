@@ -1,11 +1,14 @@
 #include "model/CommitHistory.h"
 
+#include "model/FailureText.h"
+
 #include "model/GeneralVariables.h"
 #include "model/SlopeCommit.h"
 #include "platform/Cp1252.h"
 #include "platform/FileAccess.h"
 #include "platform/ProfileDocument.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
 #include <QJsonArray>
@@ -16,6 +19,7 @@
 #include <cerrno>
 #include <cstring>
 #include <cstdio>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace brimo {
@@ -48,15 +52,15 @@ QString partialFolder(const QString& history) {
 // the entry as a regular file; `damaged` says what is wrong.
 HistoryEntry readRecord(const QString& folder, int number) {
     HistoryEntry entry{number, {}, {}, {}, {}, {}, {}};
-    QString error;
-    const std::optional<QByteArray> bytes = ReadWholeFile(folder + QLatin1Char('/') + kEntryFile, &error, false);
+    Failure failure;
+    const std::optional<QByteArray> bytes = ReadWholeFile(folder + QLatin1Char('/') + kEntryFile, &failure, false);
     if (!bytes) {
-        entry.damaged = QStringLiteral("%1: %2").arg(kEntryFile, error);
+        entry.damaged = QStringLiteral("%1: %2").arg(kEntryFile, FailureText(failure));
         return entry;
     }
     const QJsonObject json = QJsonDocument::fromJson(*bytes).object();
     if (json.isEmpty()) {
-        entry.damaged = QStringLiteral("%1: no record of a commit").arg(kEntryFile);
+        entry.damaged = QStringLiteral("%1: %2").arg(kEntryFile, QCoreApplication::translate("History", "no record of a commit"));
         return entry;
     }
     entry.when = QDateTime::fromString(json.value(QLatin1String("when")).toString(), Qt::ISODate);
@@ -67,14 +71,14 @@ HistoryEntry readRecord(const QString& folder, int number) {
         const QJsonObject file = value.toObject();
         const QString name = file.value(QLatin1String("name")).toString();
         if (name.isEmpty() || name.contains(QLatin1Char('/')) || name.startsWith(QLatin1Char('.'))) {
-            entry.damaged = QStringLiteral("%1: \"%2\" names no file of the user's folder").arg(kEntryFile, name);
+            entry.damaged = QStringLiteral("%1: %2").arg(kEntryFile, QCoreApplication::translate("History", "\"%1\" names no file of the user's folder").arg(name));
             return entry;
         }
         const KeptFile kept{name, file.value(QLatin1String("existed")).toBool(), std::nullopt};
         const QFileInfo saved(folder + QLatin1Char('/') + name);
         if (kept.existed && (saved.isSymLink() || !saved.isFile()))
-            entry.damaged = QStringLiteral("%1: %2").arg(name, saved.exists() || saved.isSymLink() ? QStringLiteral("not a regular file")
-                                                                                              : QStringLiteral("missing"));
+            entry.damaged = QStringLiteral("%1: %2").arg(
+                name, FailureText({saved.exists() || saved.isSymLink() ? FailureKind::NotRegularFile : FailureKind::Missing, 0, 0, {}}));
         entry.files.append(kept);
     }
     return entry;
@@ -92,9 +96,9 @@ QByteArray entryJson(const HistoryEntry& entry) {
         .toJson();
 }
 
-bool renameFolder(const QString& from, const QString& to, QString* error) {
+bool renameFolder(const QString& from, const QString& to, Failure* failure) {
     if (std::rename(QFile::encodeName(from).constData(), QFile::encodeName(to).constData()) == 0) return true;
-    *error = QStringLiteral("%1: %2").arg(to, QString::fromLocal8Bit(std::strerror(errno)));
+    *failure = FailureOfErrno(errno);
     return false;
 }
 
@@ -135,45 +139,45 @@ std::optional<HistoryEntry> ReadHistoryEntry(const QString& nativeIni, int numbe
     const QList<HistoryEntry> history = ReadHistory(nativeIni);
     const auto found = std::find_if(history.rbegin(), history.rend(), [&](const HistoryEntry& e) { return number == 0 || e.number == number; });
     if (found == history.rend()) {
-        *error = number ? QStringLiteral("no entry %1").arg(number) : QStringLiteral("no entry");
+        *error = number ? QCoreApplication::translate("History", "no entry %1").arg(number) : QCoreApplication::translate("History", "no entry");
         return std::nullopt;
     }
     HistoryEntry entry = *found;
     const QString folder = entryFolder(HistoryFolder(nativeIni), entry.number) + QLatin1Char('/');
     for (KeptFile& file : entry.files) {
         if (!entry.damaged.isEmpty()) break;
-        QString why;
+        Failure why;
         if (file.existed && !(file.bytes = ReadWholeFile(folder + file.name, &why, false)))
-            entry.damaged = QStringLiteral("%1: %2").arg(file.name, why);
+            entry.damaged = QStringLiteral("%1: %2").arg(file.name, FailureText(why));
     }
     if (!entry.damaged.isEmpty()) {
-        *error = QStringLiteral("entry %1 is damaged (%2)").arg(entry.number).arg(entry.damaged);
+        *error = QCoreApplication::translate("History", "entry %1 is damaged (%2)").arg(entry.number).arg(entry.damaged);
         return std::nullopt;
     }
     return entry;
 }
 
-bool StageHistoryEntry(const QString& nativeIni, const HistoryEntry& entry, QString* error) {
+bool StageHistoryEntry(const QString& nativeIni, const HistoryEntry& entry, Failure* failure) {
     const QString history = HistoryFolder(nativeIni);
-    if (!QDir(history).exists() && !QDir().mkdir(history)) { // never the user's folder itself
-        *error = QStringLiteral("%1: cannot be created").arg(history);
+    if (!QDir(history).exists() && ::mkdir(QFile::encodeName(history).constData(), 0777) != 0) { // never the user's folder itself
+        *failure = FailureOfErrno(errno);
         return false;
     }
     removePartials(history);
     removeStaged(history);
 
     const QString partial = partialFolder(history);
-    if (!QDir().mkdir(partial)) {
-        *error = QStringLiteral("%1: cannot be created").arg(partial);
+    if (::mkdir(QFile::encodeName(partial).constData(), 0777) != 0) {
+        *failure = FailureOfErrno(errno);
         return false;
     }
-    bool written = WriteWholeFile(partial + QLatin1Char('/') + kEntryFile, entryJson(entry), error);
+    bool written = WriteWholeFile(partial + QLatin1Char('/') + kEntryFile, entryJson(entry), failure);
     const QString folder = QFileInfo(nativeIni).absolutePath() + QLatin1Char('/');
     for (const KeptFile& file : entry.files)
         if (written && file.existed && file.bytes)
-            written = KeepFileAs(folder + file.name, *file.bytes, partial + QLatin1Char('/') + file.name, error);
+            written = KeepFileAs(folder + file.name, *file.bytes, partial + QLatin1Char('/') + file.name, failure);
     const QString staged = history + QLatin1Char('/') + kStaged;
-    if (written && (!SyncFolder(partial) || !renameFolder(partial, staged, error))) written = false;
+    if (written && (!SyncFolder(partial) || !renameFolder(partial, staged, failure))) written = false;
     if (!written) {
         QDir(partial).removeRecursively();
         QDir().rmdir(history); // when it holds nothing else
@@ -192,9 +196,10 @@ std::optional<int> KeepStagedHistoryEntry(const QString& nativeIni) {
             last = std::max(last, *number);
             numbered.append(name);
         }
-    QString error;
-    if (!renameFolder(staged, entryFolder(history, last + 1), &error)) {
-        std::fprintf(stderr, "Brimo: %s\n", error.toLocal8Bit().constData());
+    Failure failure;
+    if (!renameFolder(staged, entryFolder(history, last + 1), &failure)) {
+        std::fprintf(stderr, "Brimo: %s: %s\n", QFile::encodeName(entryFolder(history, last + 1)).constData(),
+                     FailureText(failure, Wording::English).toLocal8Bit().constData());
         return std::nullopt;
     }
     SyncFolder(history);

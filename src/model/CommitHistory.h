@@ -18,6 +18,8 @@
 #include <QByteArray>
 #include <QDateTime>
 #include <QList>
+#include "platform/Failure.h"
+
 #include <QString>
 #include <QStringList>
 
@@ -59,7 +61,7 @@ std::optional<HistoryEntry> ReadHistoryEntry(const QString& nativeIni, int numbe
 // Writes the entry that a commit is about to make, whole, as the staged
 // entry of the folder (one at most; an older one is replaced). False, with
 // `error`, when it cannot be written.
-bool StageHistoryEntry(const QString& nativeIni, const HistoryEntry& entry, QString* error);
+bool StageHistoryEntry(const QString& nativeIni, const HistoryEntry& entry, Failure* failure);
 
 // The commit took effect: the staged entry takes the next number, and the
 // oldest beyond kHistoryLength go. Gives the number, or nothing when there

@@ -41,8 +41,8 @@ void GeneralVariables::setText(QAnyStringView key, const QString& text) { values
 
 void GeneralVariables::setValue(QAnyStringView key, VariableValue value) { values_[indexOf(key)] = std::move(value); }
 
-void LoadGeneralVariables(const InstallInfo& info, GeneralVariables& variables, QString* error) {
-    LoadGeneralVariables(LoadProfile(info.prefix, BrimoIniPath(info), error), variables);
+void LoadGeneralVariables(const InstallInfo& info, GeneralVariables& variables, Failure* failure) {
+    LoadGeneralVariables(LoadProfile(info.prefix, BrimoIniPath(info), failure), variables);
 }
 
 void LoadGeneralVariables(const ProfileDocument& ini, GeneralVariables& variables) {

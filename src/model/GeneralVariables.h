@@ -46,8 +46,8 @@ VariableValue DefaultValue(const GeneralVariableRow& entry);
 
 // Reads the 51 keys of section Brimo_Gene from BrimoIniPath(info), in the
 // catalogue's order; a missing or empty value takes its default. A Brimo.ini
-// that is there but cannot be read gives every default and sets `error`.
-void LoadGeneralVariables(const InstallInfo& info, GeneralVariables& variables, QString* error = nullptr);
+// that is there but cannot be read gives every default and sets `failure`.
+void LoadGeneralVariables(const InstallInfo& info, GeneralVariables& variables, Failure* failure = nullptr);
 // The same from a Brimo.ini already read.
 void LoadGeneralVariables(const ProfileDocument& ini, GeneralVariables& variables);
 

@@ -7,9 +7,9 @@ namespace brimo {
 
 QString ZorelIniPath() { return GetWindowsFolder() + QStringLiteral("\\zorel.ini"); }
 
-void LoadInstallInfo(const WinePrefix& prefix, InstallInfo& info, QString* error) {
+void LoadInstallInfo(const WinePrefix& prefix, InstallInfo& info, Failure* failure) {
     info.prefix = prefix;
-    const ProfileDocument ini = LoadProfile(prefix, ZorelIniPath(), error);
+    const ProfileDocument ini = LoadProfile(prefix, ZorelIniPath(), failure);
     const struct {
         const char* section;
         const char* key;

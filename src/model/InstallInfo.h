@@ -5,6 +5,7 @@
 // Where the add-on lies, where its variable files lie, who the user is, and
 // which versions are installed: six texts read once from zorel.ini.
 
+#include "platform/Failure.h"
 #include "platform/WindowsPaths.h"
 
 #include <QString>
@@ -26,8 +27,8 @@ struct InstallInfo {
 // Reads the six values, in their order, from GetWindowsFolder() + "\zorel.ini"
 // in `prefix`, which the paths joined from them lie in too.
 // A zorel.ini that is there but cannot be read reads as a missing one and
-// sets `error` (see LoadProfile).
-void LoadInstallInfo(const WinePrefix& prefix, InstallInfo& info, QString* error = nullptr);
+// sets `failure` (see LoadProfile).
+void LoadInstallInfo(const WinePrefix& prefix, InstallInfo& info, Failure* failure = nullptr);
 
 // Paths joined by plain concatenation: no separator is tested or added.
 QString ZorelIniPath();

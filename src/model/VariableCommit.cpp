@@ -1,5 +1,7 @@
 #include "model/VariableCommit.h"
 
+#include "model/FailureText.h"
+
 #include "model/LispFile.h"
 #include "platform/Cp1252.h"
 #include "platform/WindowsPaths.h"
@@ -69,9 +71,10 @@ CommitOutcome writeWithHistory(const QString& nativeIni, const QList<FileToWrite
         entry.files.append({QFileInfo(file.nativePath).fileName(), before.has_value(), before});
     }
     changes = changes && !nativeIni.isEmpty(); // a Brimo.ini that names no folder here has no history
-    QString historyError;
-    const bool staged = changes && StageHistoryEntry(nativeIni, entry, &historyError);
-    QString failed, reason;
+    Failure historyFailure;
+    const bool staged = changes && StageHistoryEntry(nativeIni, entry, &historyFailure);
+    QString failed;
+    Failure reason;
     // The entry takes its number while the journal still stands: a kill
     // before the journal goes leaves the numbering to the next start.
     const auto keepEntry = [&] {
@@ -84,7 +87,8 @@ CommitOutcome writeWithHistory(const QString& nativeIni, const QList<FileToWrite
     // The commit itself says why the folder cannot be written; a history
     // that alone cannot be kept does not stop it.
     if (changes && !staged)
-        std::fprintf(stderr, "Brimo: the history of this commit is not kept: %s\n", historyError.toLocal8Bit().constData());
+        std::fprintf(stderr, "Brimo: the history of this commit is not kept: %s\n",
+                     FailureText(historyFailure, Wording::English).toLocal8Bit().constData());
     return {};
 }
 
@@ -93,8 +97,9 @@ CommitOutcome writeWithHistory(const QString& nativeIni, const QList<FileToWrite
 UserFolderLock::UserFolderLock(const WinePrefix& prefix, const QString& iniPath)
     : prefix_(prefix), iniPath_(iniPath), nativeIni_(ToNativePath(prefix, iniPath)),
       owner_(prefix.folder, EXIT_FAILURE) {
-    if (!owner_.error().isEmpty()) {
-        std::fprintf(stderr, "Brimo: %s: %s\n", prefix.name().toLocal8Bit().constData(), owner_.error().toLocal8Bit().constData());
+    if (owner_.failure()) {
+        std::fprintf(stderr, "Brimo: %s: %s\n", prefix.name().toLocal8Bit().constData(),
+                     FailureText(owner_.failure(), Wording::English).toLocal8Bit().constData());
         return;
     }
     const QStringList folders = nativeIni_.isEmpty() ? QStringList{QString()} : foldersToLock(nativeIni_);
@@ -105,7 +110,7 @@ UserFolderLock::UserFolderLock(const WinePrefix& prefix, const QString& iniPath)
     if (state() != FolderLock::State::Held) {
         if (state() != FolderLock::State::NoFolder)
             std::fprintf(stderr, "Brimo: %s: %s\n", QFile::encodeName(nativeIni_).constData(),
-                         failure().reason.toLocal8Bit().constData());
+                         FailureText(failure().reason, Wording::English).toLocal8Bit().constData());
         return;
     }
     recovery_ = RecoverFilesTogether(journalBeside(nativeIni_));
@@ -127,7 +132,7 @@ FolderLock::State UserFolderLock::state() const {
 }
 
 CommitOutcome UserFolderLock::failure() const {
-    if (locks_.empty()) return {false, iniPath_, owner_.error(), false};
+    if (locks_.empty()) return {false, iniPath_, owner_.failure(), false};
     const FolderLock* lock = firstNotHeld();
     if (!lock) return {};
     return {false, iniPath_, lock->why(), lock->state() == FolderLock::State::Busy};
@@ -142,9 +147,9 @@ CommitPlan::CommitPlan(const UserFolderLock& lock)
         return;
     }
     if (!QFileInfo::exists(nativeIni_)) return;
-    QString error;
-    auto bytes = ReadWholeFile(nativeIni_, &error);
-    if (!bytes) readFailure_ = {false, iniPath_, error};
+    Failure failure;
+    auto bytes = ReadWholeFile(nativeIni_, &failure);
+    if (!bytes) readFailure_ = {false, iniPath_, failure};
     else ini_ = ProfileDocument(std::move(*bytes));
 }
 
@@ -216,6 +221,11 @@ CommitOutcome RestoreHistoryEntry(const UserFolderLock& lock, const HistoryEntry
     return outcome;
 }
 
-Recovery RecoverInterruptedCommit(const InstallInfo& info) { return UserFolderLock(info.prefix, BrimoIniPath(info)).recovery(); }
+StartRecovery RecoverInterruptedCommit(const InstallInfo& info) {
+    const UserFolderLock lock(info.prefix, BrimoIniPath(info));
+    // A folder that is missing has nothing to recover, and says so at OK.
+    if (lock.state() == FolderLock::State::NoFolder) return {};
+    return {lock.recovery(), lock.failure()};
+}
 
 } // namespace brimo

@@ -35,7 +35,7 @@ struct CommittedRow {
 struct CommitOutcome {
     bool ok = true;
     QString file;   // the Windows path of the file that could not be written
-    QString reason;
+    Failure reason;
     bool busy = false; // another program was writing them: worth another try
 };
 
@@ -128,11 +128,17 @@ CommitOutcome CommitVariables(const WinePrefix& prefix, const QString& lispPath,
 // ("restore N").
 CommitOutcome RestoreHistoryEntry(const UserFolderLock& lock, const HistoryEntry& entry);
 
+// What the start found in the folder of Brimo.ini.
+struct StartRecovery {
+    Recovery recovery = Recovery::Nothing;
+    CommitOutcome lock; // not ok when a lock could not be had (`busy`: another program kept it)
+};
+
 // Finishes or undoes a commit that a kill or a power loss cut off in the
 // folder of Brimo.ini, under its lock (left alone when another program keeps
 // the lock: its commit is in progress). Every program that reads or writes
 // these files calls it at its start, before it reads any of them. Reports
 // what it did on stderr.
-Recovery RecoverInterruptedCommit(const InstallInfo& info);
+StartRecovery RecoverInterruptedCommit(const InstallInfo& info);
 
 } // namespace brimo

@@ -22,26 +22,28 @@ namespace brimo {
 namespace {
 constexpr int kMaxLinkDepth = 40; // as the system counts a loop of links
 
-std::optional<QByteArray> failRead(QString* error, const QString& why) {
-    if (error) *error = why;
+std::optional<QByteArray> failRead(Failure* failure, Failure why) {
+    Report(failure, std::move(why));
     return std::nullopt;
 }
 
+Failure errnoFailure() { return FailureOfErrno(errno); }
+
 // Reads `fd` to its end, `expected` bytes or more, but never past the cap:
 // a file can grow while it is read, a pipe has no end in sight.
-std::optional<QByteArray> readToEnd(int fd, qint64 expected, QString* error) {
+std::optional<QByteArray> readToEnd(int fd, qint64 expected, Failure* failure) {
     QByteArray bytes;
     bytes.resize(static_cast<qsizetype>(expected));
     qsizetype done = 0;
     for (;;) {
         if (done == bytes.size()) {
             if (bytes.size() > kLargestReadFile)
-                return failRead(error, QStringLiteral("too large (more than %1 bytes)").arg(kLargestReadFile));
+                return failRead(failure, {FailureKind::TooLargeToRead, 0, 0, {}});
             bytes.resize(std::min<qsizetype>(bytes.size() + 65536, kLargestReadFile + 1));
         }
         const ssize_t n = ::read(fd, bytes.data() + done, static_cast<size_t>(bytes.size() - done));
         if (n < 0 && errno == EINTR) continue;
-        if (n < 0) return failRead(error, QString::fromLocal8Bit(std::strerror(errno)));
+        if (n < 0) return failRead(failure, errnoFailure());
         if (n == 0) break;
         done += n;
     }
@@ -56,13 +58,12 @@ struct FdCloser {
 
 } // namespace
 
-std::optional<QByteArray> ReadWholeFile(const QString& nativePath, QString* error, bool followLinks) {
-    const auto fail = [error](const QString& why) { return failRead(error, why); };
-    const auto kindProblem = [](const struct stat& info) -> QString {
-        if (S_ISDIR(info.st_mode)) return QStringLiteral("a folder stands where the file should be");
-        if (!S_ISREG(info.st_mode)) return QStringLiteral("not a regular file");
-        if (info.st_size > kLargestReadFile)
-            return QStringLiteral("too large (%1 bytes; at most %2 are read)").arg(info.st_size).arg(kLargestReadFile);
+std::optional<QByteArray> ReadWholeFile(const QString& nativePath, Failure* failure, bool followLinks) {
+    const auto fail = [failure](Failure why) { return failRead(failure, std::move(why)); };
+    const auto kindProblem = [](const struct stat& info) -> Failure {
+        if (S_ISDIR(info.st_mode)) return {FailureKind::FolderInTheWay, 0, 0, {}};
+        if (!S_ISREG(info.st_mode)) return {FailureKind::NotRegularFile, 0, 0, {}};
+        if (info.st_size > kLargestReadFile) return {FailureKind::TooLargeToRead, 0, info.st_size, {}};
         return {};
     };
     // A device is not even opened (opening some has effects). O_NONBLOCK: a
@@ -70,58 +71,43 @@ std::optional<QByteArray> ReadWholeFile(const QString& nativePath, QString* erro
     // again what was opened.
     struct stat info {};
     const QByteArray name = QFile::encodeName(nativePath);
-    if ((followLinks ? ::stat(name.constData(), &info) : ::lstat(name.constData(), &info)) == 0 && !kindProblem(info).isEmpty())
+    if ((followLinks ? ::stat(name.constData(), &info) : ::lstat(name.constData(), &info)) == 0 && kindProblem(info))
         return fail(kindProblem(info));
     const int fd = ::open(name.constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC | (followLinks ? 0 : O_NOFOLLOW));
-    if (fd < 0) return fail(QString::fromLocal8Bit(std::strerror(errno)));
+    if (fd < 0) return fail(errnoFailure());
     const FdCloser closer{fd};
-    if (::fstat(fd, &info) != 0) return fail(QString::fromLocal8Bit(std::strerror(errno)));
-    if (const QString problem = kindProblem(info); !problem.isEmpty()) return fail(problem);
-    return readToEnd(fd, info.st_size, error);
+    if (::fstat(fd, &info) != 0) return fail(errnoFailure());
+    if (Failure problem = kindProblem(info)) return fail(std::move(problem));
+    return readToEnd(fd, info.st_size, failure);
 }
 
-std::optional<QByteArray> ReadGivenFile(const QString& nativePath, QString* error) {
+std::optional<QByteArray> ReadGivenFile(const QString& nativePath, Failure* failure) {
     struct stat info {};
     const QByteArray name = QFile::encodeName(nativePath);
-    if (::stat(name.constData(), &info) != 0 || !S_ISFIFO(info.st_mode)) return ReadWholeFile(nativePath, error);
+    if (::stat(name.constData(), &info) != 0 || !S_ISFIFO(info.st_mode)) return ReadWholeFile(nativePath, failure);
     const int fd = ::open(name.constData(), O_RDONLY | O_CLOEXEC);
-    if (fd < 0) return failRead(error, QString::fromLocal8Bit(std::strerror(errno)));
+    if (fd < 0) return failRead(failure, errnoFailure());
     const FdCloser closer{fd};
-    return readToEnd(fd, 0, error);
+    return readToEnd(fd, 0, failure);
 }
 
-QString NoFolderReason() { return QStringLiteral("the path names no folder on this machine"); }
-QString FolderMissingReason(const QString& nativeFolder) {
-    return QStringLiteral("the folder %1 does not exist").arg(nativeFolder);
-}
+Failure NoFolderFailure() { return {FailureKind::NoFolder, 0, 0, {}}; }
+Failure FolderMissingFailure(const QString& nativeFolder) { return {FailureKind::FolderMissing, 0, 0, nativeFolder}; }
 
 namespace {
 
-bool folderAndFileWritable(const QString& nativePath, QString* error) {
-    if (nativePath.isEmpty()) {
-        if (error) *error = NoFolderReason();
-        return false;
-    }
+bool folderAndFileWritable(const QString& nativePath, Failure* failure) {
+    const auto fail = [failure](Failure why) { return Report(failure, std::move(why)), false; };
+    if (nativePath.isEmpty()) return fail(NoFolderFailure());
     const QFileInfo info(nativePath);
-    if (!info.absoluteDir().exists()) {
-        if (error) *error = FolderMissingReason(info.absolutePath());
-        return false;
-    }
-    if (info.isDir()) {
-        if (error) *error = QStringLiteral("a folder of that name stands in the way");
-        return false;
-    }
-    if (info.exists() && !info.isFile()) {
-        if (error) *error = QStringLiteral("not a regular file");
-        return false;
-    }
+    if (!info.absoluteDir().exists()) return fail(FolderMissingFailure(info.absolutePath()));
+    if (info.isDir()) return fail({FailureKind::FolderInTheWay, 0, 0, {}});
+    if (info.exists() && !info.isFile()) return fail({FailureKind::NotRegularFile, 0, 0, {}});
     // A file without any write bit is read-only for every user, root too, as
     // Wine maps the read-only attribute.
     constexpr auto anyWrite = QFileDevice::WriteOwner | QFileDevice::WriteGroup | QFileDevice::WriteOther;
-    if (info.exists() && (!info.isWritable() || !(info.permissions() & anyWrite))) {
-        if (error) *error = QStringLiteral("the file is read-only");
-        return false;
-    }
+    if (info.exists() && (!info.isWritable() || !(info.permissions() & anyWrite)))
+        return fail({FailureKind::ReadOnlyFile, 0, 0, {}});
     return true;
 }
 
@@ -132,7 +118,7 @@ namespace {
 // The file created or emptied, written, and flushed to the disk.
 // The system's own calls, so that the reason of a short write (a full disk,
 // the file size limit) reaches the report.
-bool writeDurably(const QString& path, const QByteArray& bytes, QString* error) {
+bool writeDurably(const QString& path, const QByteArray& bytes, Failure* failure) {
     const QByteArray name = QFile::encodeName(path);
     const int fd = ::open(name.constData(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0666);
     bool ok = fd >= 0;
@@ -146,7 +132,7 @@ bool writeDurably(const QString& path, const QByteArray& bytes, QString* error) 
     const int why = errno;
     if (fd >= 0 && ::close(fd) != 0) ok = false;
     if (ok) return true;
-    if (error) *error = QString::fromLocal8Bit(std::strerror(why ? why : EIO));
+    Report(failure, FailureOfErrno(why ? why : EIO));
     ::unlink(name.constData());
     return false;
 }
@@ -163,19 +149,19 @@ bool SyncFolder(const QString& nativeFolder) {
     return ok;
 }
 
-std::optional<QString> FollowLinks(const QString& nativePath, QString* error) {
+std::optional<QString> FollowLinks(const QString& nativePath, Failure* failure) {
     QString path = nativePath;
     for (int depth = 0; depth < kMaxLinkDepth; ++depth) {
         const QFileInfo info(path);
         if (!info.isSymLink()) return path;
         path = info.symLinkTarget();
     }
-    if (error) *error = QStringLiteral("too many levels of symbolic links");
+    Report(failure, {FailureKind::LinkLoop, ELOOP, 0, {}});
     return std::nullopt;
 }
 
 bool WriteFilesTogether(const QList<FileToWrite>& files, const QString& journalPath, QString* failedPath,
-                        QString* error, const std::function<void()>& moved) {
+                        Failure* failure, const std::function<void()>& moved) {
     const QString folder = folderOf(journalPath);
     // Each file as written: the file its links lead to, its staged copy
     // beside it (none for a file that goes), and the old content where a
@@ -193,21 +179,21 @@ bool WriteFilesTogether(const QList<FileToWrite>& files, const QString& journalP
     for (const FileToWrite& file : files) {
         if (failedPath) *failedPath = file.nativePath;
         if (folderOf(file.nativePath) != folder) {
-            if (error) *error = QStringLiteral("the files of one commit must share a folder");
+            Report(failure, {FailureKind::SplitFolders, 0, 0, {}});
             return dropStaged(), false;
         }
-        const std::optional<QString> target = FollowLinks(file.nativePath, error);
-        if (!target || !folderAndFileWritable(*target, error)) return dropStaged(), false;
+        const std::optional<QString> target = FollowLinks(file.nativePath, failure);
+        if (!target || !folderAndFileWritable(*target, failure)) return dropStaged(), false;
         const QFileInfo old(*target);
         Move move{*target, *target + QLatin1String(kStagedSuffix), std::nullopt};
         // Only the files moved before another can need their old content
         // back; one that cannot be read could not be put back, so the
         // commit stops here, before anything has moved.
         if (&file != &files.back() && old.exists()) {
-            QString why;
+            Failure why;
             move.previous = ReadWholeFile(*target, &why);
             if (!move.previous) {
-                if (error) *error = QStringLiteral("it cannot be read (%1), so it could not be put back").arg(why);
+                Report(failure, {FailureKind::CannotPutBack, why.systemError, 0, {}});
                 return dropStaged(), false;
             }
         }
@@ -221,7 +207,7 @@ bool WriteFilesTogether(const QList<FileToWrite>& files, const QString& journalP
             entries.append({{}, QFile::encodeName(name)});
             continue;
         }
-        if (!writeDurably(move.staged, *file.bytes, error)) return dropStaged(), false;
+        if (!writeDurably(move.staged, *file.bytes, failure)) return dropStaged(), false;
         moves.append(move);
         if (old.exists()) QFile::setPermissions(move.staged, old.permissions());
         entries.append({QFile::encodeName(name + QLatin1String(kStagedSuffix)), QFile::encodeName(name)});
@@ -230,7 +216,7 @@ bool WriteFilesTogether(const QList<FileToWrite>& files, const QString& journalP
     // From the moment the journal is on the disk, a start after a kill
     // finishes the moves; before it, the start drops the staged copies.
     if (failedPath) *failedPath = journalPath;
-    if (!writeDurably(journalPath, ComposeCommitJournal(entries), error) || !SyncFolder(folder)) {
+    if (!writeDurably(journalPath, ComposeCommitJournal(entries), failure) || !SyncFolder(folder)) {
         QFile::remove(journalPath);
         return dropStaged(), false;
     }
@@ -240,7 +226,7 @@ bool WriteFilesTogether(const QList<FileToWrite>& files, const QString& journalP
                                   : ::rename(QFile::encodeName(move.staged).constData(), QFile::encodeName(move.target).constData()) == 0)
             continue;
         if (failedPath) *failedPath = files[i].nativePath;
-        if (error) *error = QString::fromLocal8Bit(std::strerror(errno));
+        Report(failure, errnoFailure());
         // Put back what the earlier moves replaced, then give up the commit.
         // Only a kill between the first restore and the journal's removal
         // would still leave the files apart.
@@ -266,17 +252,18 @@ bool RemoveFile(const QString& nativePath) {
     return ::unlink(QFile::encodeName(nativePath).constData()) == 0 || errno == ENOENT;
 }
 
-bool KeepFileAs(const QString& source, const QByteArray& bytes, const QString& copy, QString* error) {
+bool KeepFileAs(const QString& source, const QByteArray& bytes, const QString& copy, Failure* failure) {
     const std::optional<QString> target = FollowLinks(source);
     if (target && ::link(QFile::encodeName(*target).constData(), QFile::encodeName(copy).constData()) == 0) return true;
-    return WriteWholeFile(copy, bytes, error);
+    return WriteWholeFile(copy, bytes, failure);
 }
 
-bool WriteWholeFile(const QString& nativePath, const QByteArray& bytes, QString* error) {
-    if (!folderAndFileWritable(nativePath, error)) return false;
+bool WriteWholeFile(const QString& nativePath, const QByteArray& bytes, Failure* failure) {
+    if (!folderAndFileWritable(nativePath, failure)) return false;
     QSaveFile save(nativePath);
     if (!save.open(QIODevice::WriteOnly) || save.write(bytes) != bytes.size() || !save.commit()) {
-        if (error) *error = save.errorString();
+        // QSaveFile keeps the system's reason in errno alone.
+        Report(failure, FailureOfErrno(errno ? errno : EIO));
         return false;
     }
     SyncFolder(folderOf(nativePath));

@@ -24,15 +24,15 @@ void report(const QString& path, const char* what) {
 // that is gone was moved before the kill.
 bool rollForward(const QString& folder, const QList<JournalEntry>& entries, const QString& journalPath) {
     for (const JournalEntry& entry : entries) {
-        QString why;
+        Failure why;
         const std::optional<QString> target = FollowLinks(folder + QLatin1Char('/') + QFile::decodeName(entry.target), &why);
         const QString staged = target.value_or(QString()) + QLatin1String(kStagedSuffix);
         const bool removal = entry.staged.isEmpty();
         if (target && !removal && !QFileInfo::exists(staged)) continue;
         if (!target || (removal ? !RemoveFile(*target)
                                 : ::rename(QFile::encodeName(staged).constData(), QFile::encodeName(*target).constData()) != 0)) {
-            if (target) why = QString::fromLocal8Bit(std::strerror(errno));
-            const QByteArray what = "cannot " + (removal ? "remove " + entry.target : "move " + entry.staged) + ": " + why.toLocal8Bit() +
+            const int reason = target ? errno : why.systemError;
+            const QByteArray what = "cannot " + (removal ? "remove " + entry.target : "move " + entry.staged) + ": " + std::strerror(reason) +
                                     "; the commit is left to finish at the next start";
             report(journalPath, what.constData());
             return false;

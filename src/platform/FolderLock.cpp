@@ -6,7 +6,6 @@
 #include <QFileInfo>
 
 #include <cerrno>
-#include <cstring>
 #include <thread>
 
 #include <fcntl.h>
@@ -20,16 +19,19 @@ namespace {
 
 constexpr std::chrono::milliseconds kRetryPause{20};
 
-QString describe(int error) { return QString::fromLocal8Bit(std::strerror(error)); }
-
-// Who holds the lock, as the holder wrote it into the file.
-QString holderOf(int fd) {
+// Who holds the lock, as the holder wrote it into the file: its process
+// number, then its name in parentheses.
+Failure holderOf(int fd) {
     char text[128] = {};
     const ssize_t n = ::pread(fd, text, sizeof text - 1, 0);
     const QString holder = QString::fromLocal8Bit(text, n > 0 ? n : 0).trimmed();
-    return holder.isEmpty() ? QStringLiteral("another program holds the lock")
-                            : QStringLiteral("process %1 holds the lock").arg(holder);
+    const qsizetype open = holder.indexOf(QLatin1String(" ("));
+    Failure held{FailureKind::LockHeld, 0, holder.left(open).toLongLong(), {}};
+    if (open > 0 && holder.endsWith(QLatin1Char(')'))) held.detail = holder.mid(open + 2).chopped(1);
+    return held;
 }
+
+Failure unusable(const QString& lockPath, int error) { return {FailureKind::LockUnusable, error, 0, lockPath}; }
 
 // The file still has this name: a holder removes it on release, and a lock
 // taken on a removed file would keep nobody out.
@@ -56,7 +58,7 @@ int openLockFile(const QByteArray& path) {
 
 FolderLock::FolderLock(const QString& lockPath, std::chrono::milliseconds wait) : path_(lockPath) {
     if (lockPath.isEmpty()) { // a path that names no folder here
-        why_ = NoFolderReason();
+        why_ = NoFolderFailure();
         return;
     }
     const QByteArray path = QFile::encodeName(lockPath);
@@ -66,8 +68,8 @@ FolderLock::FolderLock(const QString& lockPath, std::chrono::milliseconds wait) 
         if (fd < 0) {
             const int error = errno;
             state_ = error == ENOENT || error == ENOTDIR ? State::NoFolder : State::Unavailable;
-            why_ = state_ == State::NoFolder ? FolderMissingReason(QFileInfo(lockPath).absolutePath())
-                                             : QStringLiteral("the lock %1 cannot be used: %2").arg(lockPath, describe(error));
+            why_ = state_ == State::NoFolder ? FolderMissingFailure(QFileInfo(lockPath).absolutePath())
+                                             : unusable(lockPath, error);
             return;
         }
         if (::flock(fd, LOCK_EX | LOCK_NB) == 0) {
@@ -86,7 +88,7 @@ FolderLock::FolderLock(const QString& lockPath, std::chrono::milliseconds wait) 
         const int error = errno;
         if (error != EWOULDBLOCK || std::chrono::steady_clock::now() >= deadline) {
             state_ = error == EWOULDBLOCK ? State::Busy : State::Unavailable;
-            why_ = error == EWOULDBLOCK ? holderOf(fd) : QStringLiteral("the lock %1 cannot be taken: %2").arg(lockPath, describe(error));
+            why_ = error == EWOULDBLOCK ? holderOf(fd) : unusable(lockPath, error);
             ::close(fd);
             return;
         }

@@ -5,6 +5,8 @@
 // process number and name into the file, so that a program kept waiting can
 // say who holds it.
 
+#include "platform/Failure.h"
+
 #include <QString>
 
 #include <chrono>
@@ -28,15 +30,15 @@ public:
     FolderLock& operator=(const FolderLock&) = delete;
 
     State state() const { return state_; }
-    // For Busy: who holds it ("process 1234 (brimo-settings)"); otherwise
-    // why the lock cannot be had.
-    const QString& why() const { return why_; }
+    // For Busy: who holds it (LockHeld with the holder's process and name);
+    // otherwise why the lock cannot be had.
+    const Failure& why() const { return why_; }
 
 private:
     QString path_;
     int fd_ = -1;
     State state_ = State::NoFolder;
-    QString why_;
+    Failure why_;
 };
 
 } // namespace brimo

@@ -22,7 +22,7 @@ ActingAsPrefixOwner::ActingAsPrefixOwner(const QString& prefix, int statusIfStuc
     gid_ = ::getegid();
     switched_ = true;
     if (::setgroups(1, &info.st_gid) != 0 || ::setegid(info.st_gid) != 0 || ::seteuid(info.st_uid) != 0) {
-        error_ = QStringLiteral("cannot act as its owner (uid %1): %2").arg(info.st_uid).arg(QString::fromLocal8Bit(std::strerror(errno)));
+        failure_ = {FailureKind::NotOwner, errno, info.st_uid, {}};
         back();
     }
 }

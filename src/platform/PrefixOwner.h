@@ -5,6 +5,8 @@
 // user's own zorel.ini names. A prefix owned by root is done as root, and a
 // program not run as root acts as itself.
 
+#include "platform/Failure.h"
+
 #include <QString>
 
 #include <sys/types.h>
@@ -23,8 +25,9 @@ public:
     ActingAsPrefixOwner(const ActingAsPrefixOwner&) = delete;
     ActingAsPrefixOwner& operator=(const ActingAsPrefixOwner&) = delete;
 
-    // Why the process could not become the owner; empty when it acts as it.
-    const QString& error() const { return error_; }
+    // Why the process could not become the owner (NotOwner); none when it
+    // acts as it.
+    const Failure& failure() const { return failure_; }
 
 private:
     void back();
@@ -32,7 +35,7 @@ private:
     gid_t gid_ = 0;
     bool switched_ = false;
     int statusIfStuck_;
-    QString error_;
+    Failure failure_;
 };
 
 } // namespace brimo

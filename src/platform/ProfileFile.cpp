@@ -8,11 +8,11 @@
 
 namespace brimo {
 
-ProfileDocument LoadProfile(const WinePrefix& prefix, const QString& windowsPath, QString* error) {
+ProfileDocument LoadProfile(const WinePrefix& prefix, const QString& windowsPath, Failure* failure) {
     const QString native = ToNativePath(prefix, windowsPath);
-    QString why;
+    Failure why;
     std::optional<QByteArray> bytes = ReadWholeFile(native, &why);
-    if (!bytes && error && QFileInfo::exists(native)) *error = windowsPath + QStringLiteral(": ") + why;
+    if (!bytes && QFileInfo::exists(native)) Report(failure, std::move(why));
     return ProfileDocument(std::move(bytes).value_or(QByteArray()));
 }
 
@@ -27,11 +27,11 @@ int GetPrivateProfileString(const WinePrefix& prefix, const QString& section, co
 }
 
 bool WriteProfileSection(const WinePrefix& prefix, const QString& windowsPath, const QString& section,
-                         const QList<QPair<QString, QString>>& keyValues, QString* error) {
+                         const QList<QPair<QString, QString>>& keyValues, Failure* failure) {
     const QString native = ToNativePath(prefix, windowsPath);
     QByteArray existing;
     if (QFileInfo::exists(native)) {
-        auto bytes = ReadWholeFile(native, error);
+        auto bytes = ReadWholeFile(native, failure);
         if (!bytes) return false;
         existing = std::move(*bytes);
     }
@@ -40,12 +40,12 @@ bool WriteProfileSection(const WinePrefix& prefix, const QString& windowsPath, c
     encoded.reserve(keyValues.size());
     for (const auto& kv : keyValues) encoded.append({toCp1252(kv.first), toCp1252(kv.second)});
     if (!document.setStrings(toCp1252(section), encoded) && QFileInfo::exists(native)) return true;
-    return WriteWholeFile(native, document.bytes(), error);
+    return WriteWholeFile(native, document.bytes(), failure);
 }
 
 bool WritePrivateProfileString(const WinePrefix& prefix, const QString& section, const QString& key, const QString& value,
-                               const QString& windowsPath, QString* error) {
-    return WriteProfileSection(prefix, windowsPath, section, {{key, value}}, error);
+                               const QString& windowsPath, Failure* failure) {
+    return WriteProfileSection(prefix, windowsPath, section, {{key, value}}, failure);
 }
 
 } // namespace brimo

@@ -1,5 +1,6 @@
 #include "settings/Options.h"
 
+#include "model/FailureText.h"
 #include "platform/FileAccess.h"
 #include "platform/WindowsPaths.h"
 #include "settings/CommandTable.h"
@@ -12,7 +13,7 @@ namespace {
 
 // One prefix a line; blank lines and lines starting with '#' are skipped.
 bool readPrefixList(const QString& file, QStringList& prefixes, QString* error) {
-    const std::optional<QByteArray> bytes = ReadGivenFile(file, error);
+    const std::optional<QByteArray> bytes = ReadGivenFile(file);
     if (!bytes) {
         *error = QStringLiteral("--prefixes-from %1: cannot be read").arg(file);
         return false;

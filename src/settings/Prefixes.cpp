@@ -1,5 +1,6 @@
 #include "settings/Commands.h"
 
+#include "model/FailureText.h"
 #include "platform/PrefixOwner.h"
 #include "platform/WindowsPaths.h"
 
@@ -47,11 +48,11 @@ int ForEachPrefix(const Options& options, const std::function<bool(const WinePre
             continue;
         }
         const ActingAsPrefixOwner owner(inForce, kFailed);
-        if (!owner.error().isEmpty()) {
-            Complain(QStringLiteral("%1: %2").arg(name, owner.error()));
-            if (missing) missing(name, owner.error());
+        if (owner.failure()) {
+            Complain(QStringLiteral("%1: %2").arg(name, FailureText(owner.failure())));
+            if (missing) missing(name, FailureText(owner.failure()));
         }
-        if (!owner.error().isEmpty() || !each(prefix)) ++failures;
+        if (owner.failure() || !each(prefix)) ++failures;
     }
     return failures;
 }

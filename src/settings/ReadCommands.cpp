@@ -2,6 +2,7 @@
 // profile file.
 #include "settings/Commands.h"
 #include "settings/UserFiles.h"
+#include "model/FailureText.h"
 
 #include "platform/Cp1252.h"
 #include "platform/FileAccess.h"
@@ -130,9 +131,9 @@ RunResult RunExport(const Options& options) {
         return {};
     }
     if (ReadWholeFile(file) == profile.bytes()) return {};
-    QString error;
-    if (!WriteWholeFile(file, profile.bytes(), &error)) {
-        Complain(QStringLiteral("%1: %2").arg(file, error));
+    Failure failure;
+    if (!WriteWholeFile(file, profile.bytes(), &failure)) {
+        Complain(QStringLiteral("%1: %2").arg(file, FailureText(failure)));
         return {false, 0, 1};
     }
     return {false, 1, 0};

@@ -1,5 +1,6 @@
 #include "settings/UserFiles.h"
 
+#include "model/FailureText.h"
 #include "model/GeneralLoad.h"
 #include "model/SlopeOpening.h"
 #include "model/VariableCommit.h"
@@ -13,12 +14,14 @@
 namespace brimo {
 
 UserFiles::UserFiles(const WinePrefix& prefix, const std::optional<QString>& user) {
-    QString brimoError;
-    LoadInstallInfo(prefix, info_, &zorelIniError_);
+    Failure zorelIni, brimoIni;
+    LoadInstallInfo(prefix, info_, &zorelIni);
+    if (zorelIni) zorelIniError_ = QStringLiteral("%1: %2").arg(ZorelIniPath(), FailureText(zorelIni));
     if (user) info_.actuel = *user == QLatin1String("Default") ? QString() : *user;
     lock_.emplace(prefix, BrimoIniPath(info_));
-    ini_ = LoadProfile(prefix, BrimoIniPath(info_), &brimoError);
+    ini_ = LoadProfile(prefix, BrimoIniPath(info_), &brimoIni);
     LoadGeneralVariables(info_, variables_);
+    const QString brimoError = brimoIni ? QStringLiteral("%1: %2").arg(BrimoIniPath(info_), FailureText(brimoIni)) : QString();
     for (const QString& error : {zorelIniError_, brimoError})
         if (!error.isEmpty()) readError_ += (readError_.isEmpty() ? QString() : QStringLiteral("\n")) + error;
 }

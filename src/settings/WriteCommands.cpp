@@ -2,6 +2,7 @@
 // written by the dialog's commit, prefix by prefix.
 #include "settings/Commands.h"
 #include "settings/UserFiles.h"
+#include "model/FailureText.h"
 
 #include "platform/Cp1252.h"
 #include "platform/FileAccess.h"
@@ -121,7 +122,7 @@ PrefixReport commitOnPrefix(const Options& options, const SectionEdits& edits, c
     const UserFiles user(prefix, options.user);
     PrefixReport report{prefix.name(), user.info().actuel, false, {}, {}, {}};
     if (const FolderLock::State state = user.lock().state(); state == FolderLock::State::Busy || state == FolderLock::State::Unavailable) {
-        report.error = QStringLiteral("%1: %2").arg(user.lock().iniPath(), user.lock().failure().reason);
+        report.error = QStringLiteral("%1: %2").arg(user.lock().iniPath(), FailureText(user.lock().failure().reason));
         return report;
     }
     CommitPlan plan(user.lock());
@@ -141,7 +142,7 @@ PrefixReport commitOnPrefix(const Options& options, const SectionEdits& edits, c
     report.changed = !report.files.isEmpty();
     if (report.changed && !options.check) {
         const CommitOutcome outcome = plan.write();
-        if (!outcome.ok) report.error = QStringLiteral("%1: %2").arg(outcome.file, outcome.reason);
+        if (!outcome.ok) report.error = QStringLiteral("%1: %2").arg(outcome.file, FailureText(outcome.reason));
     }
     return report;
 }
@@ -231,7 +232,7 @@ PrefixReport restoreOnPrefix(const Options& options, int number, const WinePrefi
     report.changed = !report.files.isEmpty();
     if (report.changed && !options.check) {
         const CommitOutcome outcome = RestoreHistoryEntry(user.lock(), *entry);
-        if (!outcome.ok) report.error = QStringLiteral("%1: %2").arg(outcome.file, outcome.reason);
+        if (!outcome.ok) report.error = QStringLiteral("%1: %2").arg(outcome.file, FailureText(outcome.reason));
     }
     return report;
 }

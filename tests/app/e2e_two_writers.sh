@@ -115,6 +115,12 @@ status=0
 [ "$status" -ge 2 ] && grep -q "process $holder (holder) holds the lock" "$E2E_DIR/busy.err" ||
   fail "set beside a live holder: status $status, $(cat "$E2E_DIR/busy.err")"
 open_dialog
+# The start waited for the lock in vain, and says so.
+box=$(e2e_wait_window "Brimo") || fail "no word at the start of the busy lock"
+xdotool windowfocus --sync "$box"
+e2e_keys Return
+xdotool windowfocus --sync "$window"
+sleep 0.3
 e2e_keys Tab
 e2e_type "CALQUE8"
 e2e_keys Return
@@ -146,7 +152,7 @@ if [ "$(id -u)" = 0 ]; then
   cp "$ini" "$E2E_DIR/old.ini"
   status=0
   "$settings" set x_lang=ITA 2> "$E2E_DIR/unusable.err" >/dev/null || status=$?
-  [ "$status" = 3 ] && grep -q "/Zorel/Var/jo/Brimo.ini.lock cannot be used: Permission denied" "$E2E_DIR/unusable.err" ||
+  [ "$status" = 3 ] && grep -q "/Zorel/Var/jo/Brimo.ini.lock cannot be used (Permission denied)" "$E2E_DIR/unusable.err" ||
     fail "set beside a lock file it cannot open: status $status, $(cat "$E2E_DIR/unusable.err")"
   cmp -s "$ini" "$E2E_DIR/old.ini" || fail "set wrote without the lock"
   rm "$lock"

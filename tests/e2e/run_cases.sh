@@ -10,6 +10,16 @@ fail() { echo "FAIL: $case: $*"; cat "$E2E_DIR/out.log" 2>/dev/null; exit 1; }
 window_id() { xdotool search --onlyvisible --name "^$1\$" 2>/dev/null | head -n1; }
 
 step_install() { cp -r "$here/installs/$1/." "$WINEPREFIX/drive_c/"; }
+step_shell() { (cd "$WINEPREFIX/drive_c" && eval "$1") || fail "shell: $1"; }
+# A process that holds the lock of FOLDER (under drive C) until the case ends.
+step_hold() {
+  python3 -c 'import fcntl, os, sys, time
+f = open(sys.argv[1], "w"); fcntl.flock(f, fcntl.LOCK_EX); f.write("%d (holder)\n" % os.getpid()); f.flush(); time.sleep(120)' \
+    "$WINEPREFIX/drive_c/$1/Brimo.ini.lock" &
+  holder=$!
+  trap 'kill $holder 2>/dev/null' EXIT
+  until grep -q holder "$WINEPREFIX/drive_c/$1/Brimo.ini.lock" 2>/dev/null; do sleep 0.05; done
+}
 step_start() { eval "set -- $1"; e2e_start "$@"; }
 step_window() { e2e_wait_window "$1" >/dev/null || fail "no window '$1'"; }
 step_focus() { local id; id=$(e2e_wait_window "$1") || fail "no window '$1'"; xdotool windowfocus --sync "$id"; sleep 0.5; }

@@ -1,3 +1,4 @@
+#include "model/FailureText.h"
 #include "model/VariableCommit.h"
 #include "platform/CommitJournal.h"
 #include "support/ScratchPrefix.h"
@@ -49,7 +50,7 @@ TEST(VariableCommit, WritesBothFilesAndKeepsTheRestOfTheProfile) {
             QFile::setPermissions(prefix.native(kIni + ".brimo-new"), QFileDevice::ReadOwner);
         }
         const CommitOutcome outcome = commit();
-        ASSERT_TRUE(outcome.ok) << outcome.reason.toStdString();
+        ASSERT_TRUE(outcome.ok) << FailureText(outcome.reason).toStdString();
         EXPECT_EQ(prefix.read(kLisp), QByteArray("(setq a 1) ;A\r\n(setq b \"\xe9\") ;B\r\n"));
         EXPECT_EQ(prefix.read(kIni), after);
         EXPECT_EQ(QDir(prefix.native(QStringLiteral("C:\\Var\\U"))).entryList(QDir::Files | QDir::Hidden),
@@ -76,7 +77,7 @@ TEST(VariableCommit, WritesThroughALinkAndRecoversThroughIt) {
     prefix.write(QStringLiteral("C:\\Var\\U\\Brimo.commit-journal"),
                  ComposeCommitJournal({{"Brimo.ini.brimo-new", "Brimo.ini"}}));
     const InstallInfo info{WinePrefix::FromEnvironment(), {}, QStringLiteral("C:\\Var"), QStringLiteral("U")};
-    EXPECT_EQ(RecoverInterruptedCommit(info), Recovery::RolledForward);
+    EXPECT_EQ(RecoverInterruptedCommit(info).recovery, Recovery::RolledForward);
     EXPECT_TRUE(QFileInfo(prefix.native(kIni)).isSymLink());
     EXPECT_EQ(prefix.read(shared), QByteArray("new"));
     EXPECT_FALSE(prefix.exists(shared + ".brimo-new"));
@@ -100,7 +101,7 @@ TEST(VariableCommit, AFailureChangesNothingAndNamesTheFile) {
         const CommitOutcome outcome = commit(c.lisp, c.ini);
         EXPECT_FALSE(outcome.ok);
         EXPECT_EQ(outcome.file, c.failing);
-        EXPECT_FALSE(outcome.reason.isEmpty());
+        EXPECT_TRUE(outcome.reason);
         EXPECT_EQ(filesUnder(prefix.root()), before);
         EXPECT_FALSE(QFileInfo::exists(QStringLiteral("/Brimo_Gene.lsp")));
     }

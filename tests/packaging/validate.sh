@@ -11,10 +11,18 @@ need() { command -v "$1" >/dev/null || { echo "$1 not installed: skipped"; exit 
 case $what in
   desktop)
     need desktop-file-validate
-    desktop-file-validate "$source/share/applications/brimo.desktop" ;;
+    desktop-file-validate "$source/share/applications/brimo.desktop"
+    # The menu speaks the four languages of the program.
+    for language in fr de it; do
+      grep -q "^Comment\[$language\]=" "$source/share/applications/brimo.desktop" || { echo "no Comment[$language]"; exit 1; }
+    done ;;
   metainfo)
     need appstreamcli
-    appstreamcli validate --no-net "$source/share/metainfo/org.example.brimo.metainfo.xml" ;;
+    appstreamcli validate --no-net "$source/share/metainfo/org.example.brimo.metainfo.xml"
+    for language in fr de it; do
+      grep -q "<summary xml:lang=\"$language\">" "$source/share/metainfo/org.example.brimo.metainfo.xml" ||
+        { echo "no summary in $language"; exit 1; }
+    done ;;
   lintian)
     need lintian
     out=$(mktemp -d)

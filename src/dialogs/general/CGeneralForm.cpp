@@ -8,6 +8,7 @@
 #include "forms/DesignFont.h"
 #include "forms/WindowServices.h"
 #include "model/LegendNumbers.h"
+#include "model/ProgramLanguage.h"
 #include "model/UserLegends.h"
 #include "platform/WindowsPaths.h"
 
@@ -122,6 +123,7 @@ void CGeneralForm::SSTab1_Click() { setCaptions(TabCaptionTable(controls_.tabs->
 
 void CGeneralForm::Option5_Click(int index) {
     variables_.setText(u"x_lang", QLatin1String(kLanguageCodes[static_cast<std::size_t>(index)]));
+    SetProgramLanguage(variables_.text(u"x_lang"));
     LoadUserLegends(legends_, info_, variables_, legendQuestion_);
     setWindowTitle(legends_.GetLegends(Legend::GeneralTitle));
 
@@ -241,8 +243,10 @@ void CGeneralForm::showControlState(const GeneralControlState& state) {
 
 // Nothing is written: the field is shown with its edits, ready to be put right.
 void CGeneralForm::refuseUnwritableQuote(const UnwritableField& field) {
-    messageBoxes().ShowInformationBox(UnwritableQuoteMessage(field), QStringLiteral("Brimo"));
     QLineEdit* text = fields_.value(field.control);
+    // The field is named as a screen reader names it: by its caption on screen.
+    NameControls(this);
+    messageBoxes().ShowInformationBox(UnwritableQuoteMessage(text->accessibleName()), QStringLiteral("Brimo"));
     showTabOf(text);
     text->setFocus(Qt::OtherFocusReason);
 }

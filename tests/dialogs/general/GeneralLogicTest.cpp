@@ -45,7 +45,6 @@ TEST(GeneralCommitLogicTest, AQuoteIsRefusedInStringRowsOnlyTheFirstInRowOrder) 
     EXPECT_EQ(field->control, "Text2");
     EXPECT_EQ(field->key, "x_style_cot");
     EXPECT_EQ(field->comment, "Polices pour le style cote");
-    EXPECT_TRUE(UnwritableQuoteMessage(*field).contains("x_style_cot"));
 }
 
 } // namespace
