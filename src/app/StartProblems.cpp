@@ -2,7 +2,6 @@
 
 #include "model/FailureText.h"
 
-#include <algorithm>
 #include <cstdio>
 
 namespace brimo {
@@ -19,10 +18,6 @@ void StartProblems::recovered(const QString& iniPath, const StartRecovery& found
     if (!found.lock.ok)
         found_.append({found.lock.busy ? Kind::LockKept : Kind::LockUnusable, iniPath, found.lock.reason});
     if (found.recovery == Recovery::Ignored) found_.append({Kind::JournalDamaged, iniPath, {}});
-}
-
-bool StartProblems::iniReadFailed() const {
-    return std::any_of(found_.begin(), found_.end(), [](const Found& f) { return f.kind == Kind::IniUnreadable; });
 }
 
 QString StartProblems::text() const {

@@ -23,7 +23,6 @@ public:
     void recovered(const QString& iniPath, const StartRecovery& found);
 
     bool any() const { return !found_.isEmpty(); }
-    bool iniReadFailed() const;
     // The box's text, in the program's language at the moment it is asked.
     QString text() const;
 
