@@ -8,8 +8,8 @@
         <translation>Das Fenster bleibt offen: Drücken Sie gleich noch einmal auf OK.</translation>
     </message>
     <message>
-        <source>The field "%1" holds a double quote ("), which the Lisp file cannot take. Remove it, then press OK again.</source>
-        <translation>Das Feld „%1“ enthält ein Anführungszeichen ("), das die Lisp-Datei nicht aufnehmen kann. Entfernen Sie es und drücken Sie dann erneut auf OK.</translation>
+        <source>The field &quot;%1&quot; holds a double quote (&quot;), which the Lisp file cannot take. Remove it, then press OK again.</source>
+        <translation>Das Feld „%1“ enthält ein Anführungszeichen (&quot;), das die Lisp-Datei nicht aufnehmen kann. Entfernen Sie es und drücken Sie dann erneut auf OK.</translation>
     </message>
     <message>
         <source>The file %1 could not be written: %2.</source>
@@ -106,7 +106,7 @@
         <translation>kein Protokoll eines Speichervorgangs</translation>
     </message>
     <message>
-        <source>"%1" names no file of the user's folder</source>
+        <source>&quot;%1&quot; names no file of the user&apos;s folder</source>
         <translation>„%1“ bezeichnet keine Datei im Ordner des Benutzers</translation>
     </message>
     <message>
@@ -120,6 +120,306 @@
     <message>
         <source>entry %1 is damaged (%2)</source>
         <translation>Eintrag %1 ist beschädigt (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsText</name>
+    <message>
+        <source>print each value the dialog would open with (all keys
+when none is given), as KEY=VALUE lines</source>
+        <translation>gibt jeden Wert aus, mit dem sich der Dialog öffnen
+würde (alle Schlüssel, wenn keiner angegeben ist),
+als Zeilen KEY=VALUE</translation>
+    </message>
+    <message>
+        <source>check each value as its field does, then write both
+files as the dialog&apos;s OK does; keys not given keep what
+the dialog opens with</source>
+        <translation>prüft jeden Wert wie sein Feld, schreibt dann beide
+Dateien wie das OK des Dialogs; nicht angegebene
+Schlüssel behalten den Wert, mit dem er sich öffnet</translation>
+    </message>
+    <message>
+        <source>write what each dialog&apos;s OK would write for the user
+(both sections) to a profile file; FILE &quot;-&quot; is the
+standard output</source>
+        <translation>schreibt, was das OK jedes Dialogs für den Benutzer
+schreiben würde (beide Abschnitte), in eine
+Profildatei; FILE „-“ ist die Standardausgabe</translation>
+    </message>
+    <message>
+        <source>set the keys of [Brimo_Gene] and [Brimo_Talus] of a
+profile file; FILE &quot;-&quot; is the standard input</source>
+        <translation>setzt die Schlüssel von [Brimo_Gene] und [Brimo_Talus]
+einer Profildatei; FILE „-“ ist die Standardeingabe</translation>
+    </message>
+    <message>
+        <source>list the last 20 commits of the user&apos;s files (by the
+dialogs&apos; OK, set, apply, restore): number, time,
+program, what, keys changed</source>
+        <translation>listet die letzten 20 Speichervorgänge der Dateien des
+Benutzers auf (durch das OK der Dialoge, set, apply,
+restore): Nummer, Zeit, Programm, Vorgang, geänderte
+Schlüssel</translation>
+    </message>
+    <message>
+        <source>bring back both files as they were before the last
+commit, or before commit N of the history; recorded
+in the history in turn</source>
+        <translation>stellt beide Dateien wieder her, wie sie vor dem
+letzten Speichervorgang oder vor Speichervorgang N
+des Verlaufs waren; wird seinerseits im Verlauf
+vermerkt</translation>
+    </message>
+    <message>
+        <source>this text, or the usage of one command</source>
+        <translation>dieser Text oder der Aufruf eines Befehls</translation>
+    </message>
+    <message>
+        <source>the version</source>
+        <translation>die Version</translation>
+    </message>
+    <message>
+        <source>Usage: brimo-settings COMMAND [OPTION...] [ARGUMENT...]
+
+Reads and writes the settings of the Zorel add-on&apos;s variable editor (Brimo)
+as its dialogs do: the values of section Brimo_Gene (general dialog) or
+Brimo_Talus (slope dialog) of the user&apos;s Brimo.ini, and the Lisp files.
+</source>
+        <translation>Aufruf: brimo-settings COMMAND [OPTION...] [ARGUMENT...]
+
+Liest und schreibt die Einstellungen des Variableneditors (Brimo) der
+Zorel-Erweiterung so wie seine Dialoge: die Werte des Abschnitts Brimo_Gene
+(allgemeiner Dialog) oder Brimo_Talus (Böschungsdialog) in der Brimo.ini
+des Benutzers sowie die Lisp-Dateien.
+</translation>
+    </message>
+    <message>
+        <source>Exit status:
+  0  done, whether or not anything changed
+  2  refused: a bad option, unknown key, value that is no number, value out
+     of its choices, double quote or control character in a text; nothing
+     was written
+  3  some prefix failed (reported); the other prefixes went on
+With --detailed-exitcodes (Puppet&apos;s convention):
+  0  done, nothing changed (with --check: nothing would change)
+  1  refused, nothing tried
+  2  done, some files changed (with --check: would change)
+  4  some prefix failed, nothing changed elsewhere
+  6  some prefix failed, and some other changed
+
+See brimo-settings(1).
+</source>
+        <translation>Rückgabewert:
+  0  erledigt, ob sich etwas geändert hat oder nicht
+  2  abgelehnt: falsche Option, unbekannter Schlüssel, Wert, der keine
+     Zahl ist, Wert außerhalb seiner Auswahl, doppeltes Anführungszeichen
+     oder Steuerzeichen in einem Text; nichts wurde geschrieben
+  3  ein Präfix ist fehlgeschlagen (gemeldet); die anderen liefen weiter
+Mit --detailed-exitcodes (Puppets Konvention):
+  0  erledigt, nichts geändert (mit --check: nichts würde sich ändern)
+  1  abgelehnt, nichts versucht
+  2  erledigt, Dateien geändert (mit --check: würden sich ändern)
+  4  ein Präfix ist fehlgeschlagen, anderswo wurde nichts geändert
+  6  ein Präfix ist fehlgeschlagen, und ein anderes wurde geändert
+
+Siehe brimo-settings(1).
+</translation>
+    </message>
+    <message>
+        <source>Commands:</source>
+        <translation>Befehle:</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Optionen:</translation>
+    </message>
+    <message>
+        <source>Options take their value as &quot;--opt value&quot; or &quot;--opt=value&quot;; &quot;--&quot; ends them.</source>
+        <translation>Optionen nehmen ihren Wert als „--opt Wert“ oder „--opt=Wert“;
+„--“ beendet sie.</translation>
+    </message>
+    <message>
+        <source>%1: no such command</source>
+        <translation>%1: unbekannter Befehl</translation>
+    </message>
+    <message>
+        <source>Usage: brimo-settings %1 [OPTION...]</source>
+        <translation>Aufruf: brimo-settings %1 [OPTION...]</translation>
+    </message>
+    <message>
+        <source>%1: the value holds a line break or another control character</source>
+        <translation>%1: der Wert enthält einen Zeilenumbruch oder ein anderes Steuerzeichen</translation>
+    </message>
+    <message>
+        <source>%1: %2 is none of %3</source>
+        <translation>%1: %2 ist keiner der Werte %3</translation>
+    </message>
+    <message>
+        <source>%1: %2 is no number</source>
+        <translation>%1: %2 ist keine Zahl</translation>
+    </message>
+    <message>
+        <source>%1: %2 holds a double quote, which would end its Lisp string</source>
+        <translation>%1: %2 enthält ein doppeltes Anführungszeichen, das seine Lisp-Zeichenkette beenden würde</translation>
+    </message>
+    <message>
+        <source>%1: not KEY=VALUE</source>
+        <translation>%1: nicht in der Form KEY=VALUE</translation>
+    </message>
+    <message>
+        <source>%1: no key of the %2 settings</source>
+        <translation>%1: kein Schlüssel der Einstellungen „%2“</translation>
+    </message>
+    <message>
+        <source>%1: characters that Windows-1252 lacks are written as ?, as the dialog writes them: %2</source>
+        <translation>%1: Zeichen, die Windows-1252 nicht kennt, werden wie im Dialog als ? geschrieben: %2</translation>
+    </message>
+    <message>
+        <source>%1 (see brimo-settings --help)</source>
+        <translation>%1 (siehe brimo-settings --help)</translation>
+    </message>
+    <message>
+        <source>--prefixes-from %1: cannot be read</source>
+        <translation>--prefixes-from %1: kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>the dialog whose keys get and set use (general)</source>
+        <translation>der Dialog, dessen Schlüssel get und set
+verwenden (general)</translation>
+    </message>
+    <message>
+        <source>get, set, apply, restore, history: print one JSON
+document (set, apply, restore: per prefix the
+user, changed, keys with old and new values,
+files, error)</source>
+        <translation>get, set, apply, restore, history: gibt ein
+JSON-Dokument aus (set, apply, restore: je Präfix
+Benutzer, changed, Schlüssel mit altem und neuem
+Wert, Dateien, error)</translation>
+    </message>
+    <message>
+        <source>get: put &quot;stored&quot; or &quot;default&quot; and a tab in front</source>
+        <translation>get: „stored“ oder „default“ und einen Tabulator
+voranstellen</translation>
+    </message>
+    <message>
+        <source>set, apply, restore: report what would change,
+write nothing</source>
+        <translation>set, apply, restore: meldet, was sich ändern
+würde, schreibt nichts</translation>
+    </message>
+    <message>
+        <source>exit statuses as Puppet&apos;s option of that name</source>
+        <translation>Rückgabewerte wie Puppets gleichnamige Option</translation>
+    </message>
+    <message>
+        <source>a Wine prefix in place of $WINEPREFIX (repeatable)</source>
+        <translation>ein Wine-Präfix anstelle von $WINEPREFIX
+(wiederholbar)</translation>
+    </message>
+    <message>
+        <source>prefixes from FILE, one a line (&apos;#&apos; starts a comment)</source>
+        <translation>Präfixe aus FILE, einer pro Zeile („#“ beginnt
+einen Kommentar)</translation>
+    </message>
+    <message>
+        <source>the user in place of [Users] actuel of zorel.ini</source>
+        <translation>der Benutzer anstelle von [Users] actuel der
+zorel.ini</translation>
+    </message>
+    <message>
+        <source>this text</source>
+        <translation>dieser Text</translation>
+    </message>
+    <message>
+        <source>this text and every option as Qt lists them</source>
+        <translation>dieser Text und alle Optionen, wie Qt sie
+auflistet</translation>
+    </message>
+    <message>
+        <source>The settings of Brimo&apos;s dialogs from the command line.</source>
+        <translation>Die Einstellungen der Dialoge von Brimo auf der Kommandozeile.</translation>
+    </message>
+    <message>
+        <source>KEY, KEY=VALUE, FILE, N or COMMAND</source>
+        <translation>KEY, KEY=VALUE, FILE, N oder COMMAND</translation>
+    </message>
+    <message>
+        <source>--dialog %1: general or slope</source>
+        <translation>--dialog %1: general oder slope</translation>
+    </message>
+    <message>
+        <source>no such folder</source>
+        <translation>dieser Ordner existiert nicht</translation>
+    </message>
+    <message>
+        <source>%1: %2; give the key a value</source>
+        <translation>%1: %2; geben Sie dem Schlüssel einen Wert</translation>
+    </message>
+    <message>
+        <source> and %1 more</source>
+        <translation> und %1 weitere</translation>
+    </message>
+    <message>
+        <source>export takes one FILE, and at most one --prefix</source>
+        <translation>export nimmt genau ein FILE und höchstens ein --prefix</translation>
+    </message>
+    <message>
+        <source>history takes no argument</source>
+        <translation>history nimmt kein Argument</translation>
+    </message>
+    <message>
+        <source>%1: %2: the stored text of %3 characters is cut to 254, as the dialog reads it</source>
+        <translation>%1: %2: der gespeicherte Text mit %3 Zeichen wird auf 254 gekürzt, wie ihn der Dialog liest</translation>
+    </message>
+    <message>
+        <source>%1: the stored text holds a double quote, which would end its Lisp string; give the key a value</source>
+        <translation>%1: der gespeicherte Text enthält ein doppeltes Anführungszeichen, das seine Lisp-Zeichenkette beenden würde; geben Sie dem Schlüssel einen Wert</translation>
+    </message>
+    <message>
+        <source>apply takes one FILE</source>
+        <translation>apply nimmt genau ein FILE</translation>
+    </message>
+    <message>
+        <source>%1: cannot be read</source>
+        <translation>%1: kann nicht gelesen werden</translation>
+    </message>
+    <message>
+        <source>%1: no key of [Brimo_Gene] or [Brimo_Talus]</source>
+        <translation>%1: kein Schlüssel in [Brimo_Gene] oder [Brimo_Talus]</translation>
+    </message>
+    <message>
+        <source>%1: already so</source>
+        <translation>%1: bereits so</translation>
+    </message>
+    <message>
+        <source>%1: would change</source>
+        <translation>%1: würde sich ändern</translation>
+    </message>
+    <message>
+        <source>%1: changed</source>
+        <translation>%1: geändert</translation>
+    </message>
+    <message>
+        <source>file %1</source>
+        <translation>Datei %1</translation>
+    </message>
+    <message>
+        <source>would change %1, already so %2, failed %3</source>
+        <translation>würden sich ändern %1, bereits so %2, fehlgeschlagen %3</translation>
+    </message>
+    <message>
+        <source>changed %1, already so %2, failed %3</source>
+        <translation>geändert %1, bereits so %2, fehlgeschlagen %3</translation>
+    </message>
+    <message>
+        <source>restore takes at most one entry number</source>
+        <translation>restore nimmt höchstens eine Eintragsnummer</translation>
+    </message>
+    <message>
+        <source>%1: no entry number</source>
+        <translation>%1: keine Eintragsnummer</translation>
     </message>
 </context>
 <context>

@@ -8,8 +8,8 @@
         <translation>The window stays open: press OK again in a moment.</translation>
     </message>
     <message>
-        <source>The field "%1" holds a double quote ("), which the Lisp file cannot take. Remove it, then press OK again.</source>
-        <translation>The field "%1" holds a double quote ("), which the Lisp file cannot take. Remove it, then press OK again.</translation>
+        <source>The field &quot;%1&quot; holds a double quote (&quot;), which the Lisp file cannot take. Remove it, then press OK again.</source>
+        <translation>The field &quot;%1&quot; holds a double quote (&quot;), which the Lisp file cannot take. Remove it, then press OK again.</translation>
     </message>
     <message>
         <source>The file %1 could not be written: %2.</source>
@@ -106,8 +106,8 @@
         <translation>no record of a commit</translation>
     </message>
     <message>
-        <source>"%1" names no file of the user's folder</source>
-        <translation>"%1" names no file of the user's folder</translation>
+        <source>&quot;%1&quot; names no file of the user&apos;s folder</source>
+        <translation>&quot;%1&quot; names no file of the user&apos;s folder</translation>
     </message>
     <message>
         <source>no entry %1</source>
@@ -120,6 +120,295 @@
     <message>
         <source>entry %1 is damaged (%2)</source>
         <translation>entry %1 is damaged (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsText</name>
+    <message>
+        <source>print each value the dialog would open with (all keys
+when none is given), as KEY=VALUE lines</source>
+        <translation>print each value the dialog would open with (all keys
+when none is given), as KEY=VALUE lines</translation>
+    </message>
+    <message>
+        <source>check each value as its field does, then write both
+files as the dialog&apos;s OK does; keys not given keep what
+the dialog opens with</source>
+        <translation>check each value as its field does, then write both
+files as the dialog&apos;s OK does; keys not given keep what
+the dialog opens with</translation>
+    </message>
+    <message>
+        <source>write what each dialog&apos;s OK would write for the user
+(both sections) to a profile file; FILE &quot;-&quot; is the
+standard output</source>
+        <translation>write what each dialog&apos;s OK would write for the user
+(both sections) to a profile file; FILE &quot;-&quot; is the
+standard output</translation>
+    </message>
+    <message>
+        <source>set the keys of [Brimo_Gene] and [Brimo_Talus] of a
+profile file; FILE &quot;-&quot; is the standard input</source>
+        <translation>set the keys of [Brimo_Gene] and [Brimo_Talus] of a
+profile file; FILE &quot;-&quot; is the standard input</translation>
+    </message>
+    <message>
+        <source>list the last 20 commits of the user&apos;s files (by the
+dialogs&apos; OK, set, apply, restore): number, time,
+program, what, keys changed</source>
+        <translation>list the last 20 commits of the user&apos;s files (by the
+dialogs&apos; OK, set, apply, restore): number, time,
+program, what, keys changed</translation>
+    </message>
+    <message>
+        <source>bring back both files as they were before the last
+commit, or before commit N of the history; recorded
+in the history in turn</source>
+        <translation>bring back both files as they were before the last
+commit, or before commit N of the history; recorded
+in the history in turn</translation>
+    </message>
+    <message>
+        <source>this text, or the usage of one command</source>
+        <translation>this text, or the usage of one command</translation>
+    </message>
+    <message>
+        <source>the version</source>
+        <translation>the version</translation>
+    </message>
+    <message>
+        <source>Usage: brimo-settings COMMAND [OPTION...] [ARGUMENT...]
+
+Reads and writes the settings of the Zorel add-on&apos;s variable editor (Brimo)
+as its dialogs do: the values of section Brimo_Gene (general dialog) or
+Brimo_Talus (slope dialog) of the user&apos;s Brimo.ini, and the Lisp files.
+</source>
+        <translation>Usage: brimo-settings COMMAND [OPTION...] [ARGUMENT...]
+
+Reads and writes the settings of the Zorel add-on&apos;s variable editor (Brimo)
+as its dialogs do: the values of section Brimo_Gene (general dialog) or
+Brimo_Talus (slope dialog) of the user&apos;s Brimo.ini, and the Lisp files.
+</translation>
+    </message>
+    <message>
+        <source>Exit status:
+  0  done, whether or not anything changed
+  2  refused: a bad option, unknown key, value that is no number, value out
+     of its choices, double quote or control character in a text; nothing
+     was written
+  3  some prefix failed (reported); the other prefixes went on
+With --detailed-exitcodes (Puppet&apos;s convention):
+  0  done, nothing changed (with --check: nothing would change)
+  1  refused, nothing tried
+  2  done, some files changed (with --check: would change)
+  4  some prefix failed, nothing changed elsewhere
+  6  some prefix failed, and some other changed
+
+See brimo-settings(1).
+</source>
+        <translation>Exit status:
+  0  done, whether or not anything changed
+  2  refused: a bad option, unknown key, value that is no number, value out
+     of its choices, double quote or control character in a text; nothing
+     was written
+  3  some prefix failed (reported); the other prefixes went on
+With --detailed-exitcodes (Puppet&apos;s convention):
+  0  done, nothing changed (with --check: nothing would change)
+  1  refused, nothing tried
+  2  done, some files changed (with --check: would change)
+  4  some prefix failed, nothing changed elsewhere
+  6  some prefix failed, and some other changed
+
+See brimo-settings(1).
+</translation>
+    </message>
+    <message>
+        <source>Commands:</source>
+        <translation>Commands:</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Options:</translation>
+    </message>
+    <message>
+        <source>Options take their value as &quot;--opt value&quot; or &quot;--opt=value&quot;; &quot;--&quot; ends them.</source>
+        <translation>Options take their value as &quot;--opt value&quot; or &quot;--opt=value&quot;; &quot;--&quot; ends them.</translation>
+    </message>
+    <message>
+        <source>%1: no such command</source>
+        <translation>%1: no such command</translation>
+    </message>
+    <message>
+        <source>Usage: brimo-settings %1 [OPTION...]</source>
+        <translation>Usage: brimo-settings %1 [OPTION...]</translation>
+    </message>
+    <message>
+        <source>%1: the value holds a line break or another control character</source>
+        <translation>%1: the value holds a line break or another control character</translation>
+    </message>
+    <message>
+        <source>%1: %2 is none of %3</source>
+        <translation>%1: %2 is none of %3</translation>
+    </message>
+    <message>
+        <source>%1: %2 is no number</source>
+        <translation>%1: %2 is no number</translation>
+    </message>
+    <message>
+        <source>%1: %2 holds a double quote, which would end its Lisp string</source>
+        <translation>%1: %2 holds a double quote, which would end its Lisp string</translation>
+    </message>
+    <message>
+        <source>%1: not KEY=VALUE</source>
+        <translation>%1: not KEY=VALUE</translation>
+    </message>
+    <message>
+        <source>%1: no key of the %2 settings</source>
+        <translation>%1: no key of the %2 settings</translation>
+    </message>
+    <message>
+        <source>%1: characters that Windows-1252 lacks are written as ?, as the dialog writes them: %2</source>
+        <translation>%1: characters that Windows-1252 lacks are written as ?, as the dialog writes them: %2</translation>
+    </message>
+    <message>
+        <source>%1 (see brimo-settings --help)</source>
+        <translation>%1 (see brimo-settings --help)</translation>
+    </message>
+    <message>
+        <source>--prefixes-from %1: cannot be read</source>
+        <translation>--prefixes-from %1: cannot be read</translation>
+    </message>
+    <message>
+        <source>the dialog whose keys get and set use (general)</source>
+        <translation>the dialog whose keys get and set use (general)</translation>
+    </message>
+    <message>
+        <source>get, set, apply, restore, history: print one JSON
+document (set, apply, restore: per prefix the
+user, changed, keys with old and new values,
+files, error)</source>
+        <translation>get, set, apply, restore, history: print one JSON
+document (set, apply, restore: per prefix the
+user, changed, keys with old and new values,
+files, error)</translation>
+    </message>
+    <message>
+        <source>get: put &quot;stored&quot; or &quot;default&quot; and a tab in front</source>
+        <translation>get: put &quot;stored&quot; or &quot;default&quot; and a tab in front</translation>
+    </message>
+    <message>
+        <source>set, apply, restore: report what would change,
+write nothing</source>
+        <translation>set, apply, restore: report what would change,
+write nothing</translation>
+    </message>
+    <message>
+        <source>exit statuses as Puppet&apos;s option of that name</source>
+        <translation>exit statuses as Puppet&apos;s option of that name</translation>
+    </message>
+    <message>
+        <source>a Wine prefix in place of $WINEPREFIX (repeatable)</source>
+        <translation>a Wine prefix in place of $WINEPREFIX (repeatable)</translation>
+    </message>
+    <message>
+        <source>prefixes from FILE, one a line (&apos;#&apos; starts a comment)</source>
+        <translation>prefixes from FILE, one a line (&apos;#&apos; starts a comment)</translation>
+    </message>
+    <message>
+        <source>the user in place of [Users] actuel of zorel.ini</source>
+        <translation>the user in place of [Users] actuel of zorel.ini</translation>
+    </message>
+    <message>
+        <source>this text</source>
+        <translation>this text</translation>
+    </message>
+    <message>
+        <source>this text and every option as Qt lists them</source>
+        <translation>this text and every option as Qt lists them</translation>
+    </message>
+    <message>
+        <source>The settings of Brimo&apos;s dialogs from the command line.</source>
+        <translation>The settings of Brimo&apos;s dialogs from the command line.</translation>
+    </message>
+    <message>
+        <source>KEY, KEY=VALUE, FILE, N or COMMAND</source>
+        <translation>KEY, KEY=VALUE, FILE, N or COMMAND</translation>
+    </message>
+    <message>
+        <source>--dialog %1: general or slope</source>
+        <translation>--dialog %1: general or slope</translation>
+    </message>
+    <message>
+        <source>no such folder</source>
+        <translation>no such folder</translation>
+    </message>
+    <message>
+        <source>%1: %2; give the key a value</source>
+        <translation>%1: %2; give the key a value</translation>
+    </message>
+    <message>
+        <source> and %1 more</source>
+        <translation> and %1 more</translation>
+    </message>
+    <message>
+        <source>export takes one FILE, and at most one --prefix</source>
+        <translation>export takes one FILE, and at most one --prefix</translation>
+    </message>
+    <message>
+        <source>history takes no argument</source>
+        <translation>history takes no argument</translation>
+    </message>
+    <message>
+        <source>%1: %2: the stored text of %3 characters is cut to 254, as the dialog reads it</source>
+        <translation>%1: %2: the stored text of %3 characters is cut to 254, as the dialog reads it</translation>
+    </message>
+    <message>
+        <source>%1: the stored text holds a double quote, which would end its Lisp string; give the key a value</source>
+        <translation>%1: the stored text holds a double quote, which would end its Lisp string; give the key a value</translation>
+    </message>
+    <message>
+        <source>apply takes one FILE</source>
+        <translation>apply takes one FILE</translation>
+    </message>
+    <message>
+        <source>%1: cannot be read</source>
+        <translation>%1: cannot be read</translation>
+    </message>
+    <message>
+        <source>%1: no key of [Brimo_Gene] or [Brimo_Talus]</source>
+        <translation>%1: no key of [Brimo_Gene] or [Brimo_Talus]</translation>
+    </message>
+    <message>
+        <source>%1: already so</source>
+        <translation>%1: already so</translation>
+    </message>
+    <message>
+        <source>%1: would change</source>
+        <translation>%1: would change</translation>
+    </message>
+    <message>
+        <source>%1: changed</source>
+        <translation>%1: changed</translation>
+    </message>
+    <message>
+        <source>file %1</source>
+        <translation>file %1</translation>
+    </message>
+    <message>
+        <source>would change %1, already so %2, failed %3</source>
+        <translation>would change %1, already so %2, failed %3</translation>
+    </message>
+    <message>
+        <source>changed %1, already so %2, failed %3</source>
+        <translation>changed %1, already so %2, failed %3</translation>
+    </message>
+    <message>
+        <source>restore takes at most one entry number</source>
+        <translation>restore takes at most one entry number</translation>
+    </message>
+    <message>
+        <source>%1: no entry number</source>
+        <translation>%1: no entry number</translation>
     </message>
 </context>
 <context>

@@ -8,27 +8,27 @@
         <translation>La fenêtre reste ouverte : validez à nouveau dans un instant.</translation>
     </message>
     <message>
-        <source>The field "%1" holds a double quote ("), which the Lisp file cannot take. Remove it, then press OK again.</source>
-        <translation>Le champ « %1 » contient un guillemet ("), que le fichier Lisp ne peut pas recevoir. Retirez-le, puis validez à nouveau.</translation>
+        <source>The field &quot;%1&quot; holds a double quote (&quot;), which the Lisp file cannot take. Remove it, then press OK again.</source>
+        <translation>Le champ « %1 » contient un guillemet (&quot;), que le fichier Lisp ne peut pas recevoir. Retirez-le, puis validez à nouveau.</translation>
     </message>
     <message>
         <source>The file %1 could not be written: %2.</source>
-        <translation>Le fichier %1 n'a pas pu être écrit : %2.</translation>
+        <translation>Le fichier %1 n&apos;a pas pu être écrit : %2.</translation>
     </message>
     <message>
         <source>No file was changed.</source>
-        <translation>Aucun fichier n'a été modifié.</translation>
+        <translation>Aucun fichier n&apos;a été modifié.</translation>
     </message>
 </context>
 <context>
     <name>Failure</name>
     <message>
         <source>the system refused it</source>
-        <translation>le système l'a refusé</translation>
+        <translation>le système l&apos;a refusé</translation>
     </message>
     <message>
         <source>no room is left on the disk</source>
-        <translation>il n'y a plus de place sur le disque</translation>
+        <translation>il n&apos;y a plus de place sur le disque</translation>
     </message>
     <message>
         <source>the disk can only be read</source>
@@ -40,7 +40,7 @@
     </message>
     <message>
         <source>you have no right to do this here</source>
-        <translation>vous n'avez pas le droit de le faire à cet endroit</translation>
+        <translation>vous n&apos;avez pas le droit de le faire à cet endroit</translation>
     </message>
     <message>
         <source>the file would pass the size limit set for this program</source>
@@ -48,7 +48,7 @@
     </message>
     <message>
         <source>the file does not exist</source>
-        <translation>le fichier n'existe pas</translation>
+        <translation>le fichier n&apos;existe pas</translation>
     </message>
     <message>
         <source>the file is too large to be read (at most %1 bytes are read)</source>
@@ -56,7 +56,7 @@
     </message>
     <message>
         <source>not a regular file</source>
-        <translation>ce n'est pas un fichier ordinaire</translation>
+        <translation>ce n&apos;est pas un fichier ordinaire</translation>
     </message>
     <message>
         <source>a folder stands where the file should be</source>
@@ -64,7 +64,7 @@
     </message>
     <message>
         <source>the folder %1 does not exist</source>
-        <translation>le dossier %1 n'existe pas</translation>
+        <translation>le dossier %1 n&apos;existe pas</translation>
     </message>
     <message>
         <source>the path names no folder on this machine</source>
@@ -84,15 +84,15 @@
     </message>
     <message>
         <source>cannot act as the owner of the prefix (user %1)</source>
-        <translation>impossible d'agir en propriétaire du préfixe (utilisateur %1)</translation>
+        <translation>impossible d&apos;agir en propriétaire du préfixe (utilisateur %1)</translation>
     </message>
     <message>
         <source>a file of the commit cannot be read, so it could not be put back</source>
-        <translation>un fichier de l'enregistrement est illisible et n'aurait pas pu être rétabli</translation>
+        <translation>un fichier de l&apos;enregistrement est illisible et n&apos;aurait pas pu être rétabli</translation>
     </message>
     <message>
         <source>the files of one commit must share a folder</source>
-        <translation>les fichiers d'un même enregistrement doivent être dans un même dossier</translation>
+        <translation>les fichiers d&apos;un même enregistrement doivent être dans un même dossier</translation>
     </message>
     <message>
         <source>another program holds the lock</source>
@@ -103,11 +103,11 @@
     <name>History</name>
     <message>
         <source>no record of a commit</source>
-        <translation>aucune trace d'un enregistrement</translation>
+        <translation>aucune trace d&apos;un enregistrement</translation>
     </message>
     <message>
-        <source>"%1" names no file of the user's folder</source>
-        <translation>« %1 » ne désigne aucun fichier du dossier de l'utilisateur</translation>
+        <source>&quot;%1&quot; names no file of the user&apos;s folder</source>
+        <translation>« %1 » ne désigne aucun fichier du dossier de l&apos;utilisateur</translation>
     </message>
     <message>
         <source>no entry %1</source>
@@ -119,18 +119,319 @@
     </message>
     <message>
         <source>entry %1 is damaged (%2)</source>
-        <translation>l'entrée %1 est endommagée (%2)</translation>
+        <translation>l&apos;entrée %1 est endommagée (%2)</translation>
+    </message>
+</context>
+<context>
+    <name>SettingsText</name>
+    <message>
+        <source>print each value the dialog would open with (all keys
+when none is given), as KEY=VALUE lines</source>
+        <translation>affiche chaque valeur avec laquelle la boîte de dialogue
+s&apos;ouvrirait (toutes les clés si aucune n&apos;est donnée),
+en lignes KEY=VALUE</translation>
+    </message>
+    <message>
+        <source>check each value as its field does, then write both
+files as the dialog&apos;s OK does; keys not given keep what
+the dialog opens with</source>
+        <translation>vérifie chaque valeur comme le fait son champ, puis
+écrit les deux fichiers comme l&apos;OK de la boîte de
+dialogue ; les clés non données gardent la valeur
+avec laquelle elle s&apos;ouvre</translation>
+    </message>
+    <message>
+        <source>write what each dialog&apos;s OK would write for the user
+(both sections) to a profile file; FILE &quot;-&quot; is the
+standard output</source>
+        <translation>écrit dans un fichier de profil ce que l&apos;OK de chaque
+boîte de dialogue écrirait pour l&apos;utilisateur (les
+deux sections) ; FILE « - » est la sortie standard</translation>
+    </message>
+    <message>
+        <source>set the keys of [Brimo_Gene] and [Brimo_Talus] of a
+profile file; FILE &quot;-&quot; is the standard input</source>
+        <translation>règle les clés de [Brimo_Gene] et [Brimo_Talus] d&apos;un
+fichier de profil ; FILE « - » est l&apos;entrée standard</translation>
+    </message>
+    <message>
+        <source>list the last 20 commits of the user&apos;s files (by the
+dialogs&apos; OK, set, apply, restore): number, time,
+program, what, keys changed</source>
+        <translation>liste les 20 derniers enregistrements des fichiers de
+l&apos;utilisateur (par l&apos;OK des boîtes de dialogue, set,
+apply, restore) : numéro, heure, programme, action,
+clés modifiées</translation>
+    </message>
+    <message>
+        <source>bring back both files as they were before the last
+commit, or before commit N of the history; recorded
+in the history in turn</source>
+        <translation>rétablit les deux fichiers tels qu&apos;ils étaient avant
+le dernier enregistrement, ou avant l&apos;enregistrement N
+de l&apos;historique ; inscrit à son tour dans l&apos;historique</translation>
+    </message>
+    <message>
+        <source>this text, or the usage of one command</source>
+        <translation>ce texte, ou l&apos;usage d&apos;une commande</translation>
+    </message>
+    <message>
+        <source>the version</source>
+        <translation>la version</translation>
+    </message>
+    <message>
+        <source>Usage: brimo-settings COMMAND [OPTION...] [ARGUMENT...]
+
+Reads and writes the settings of the Zorel add-on&apos;s variable editor (Brimo)
+as its dialogs do: the values of section Brimo_Gene (general dialog) or
+Brimo_Talus (slope dialog) of the user&apos;s Brimo.ini, and the Lisp files.
+</source>
+        <translation>Usage : brimo-settings COMMAND [OPTION...] [ARGUMENT...]
+
+Lit et écrit les réglages de l&apos;éditeur de variables du module Zorel (Brimo)
+comme le font ses boîtes de dialogue : les valeurs de la section Brimo_Gene
+(boîte générale) ou Brimo_Talus (boîte des talus) du Brimo.ini de
+l&apos;utilisateur, et les fichiers Lisp.
+</translation>
+    </message>
+    <message>
+        <source>Exit status:
+  0  done, whether or not anything changed
+  2  refused: a bad option, unknown key, value that is no number, value out
+     of its choices, double quote or control character in a text; nothing
+     was written
+  3  some prefix failed (reported); the other prefixes went on
+With --detailed-exitcodes (Puppet&apos;s convention):
+  0  done, nothing changed (with --check: nothing would change)
+  1  refused, nothing tried
+  2  done, some files changed (with --check: would change)
+  4  some prefix failed, nothing changed elsewhere
+  6  some prefix failed, and some other changed
+
+See brimo-settings(1).
+</source>
+        <translation>Code de sortie :
+  0  fait, que quelque chose ait changé ou non
+  2  refusé : option incorrecte, clé inconnue, valeur qui n&apos;est pas un
+     nombre, valeur hors de ses choix, guillemet droit ou caractère de
+     contrôle dans un texte ; rien n&apos;a été écrit
+  3  un préfixe a échoué (signalé) ; les autres préfixes ont continué
+Avec --detailed-exitcodes (la convention de Puppet) :
+  0  fait, rien n&apos;a changé (avec --check : rien ne changerait)
+  1  refusé, rien n&apos;a été tenté
+  2  fait, des fichiers ont changé (avec --check : changeraient)
+  4  un préfixe a échoué, rien n&apos;a changé ailleurs
+  6  un préfixe a échoué, et un autre a changé
+
+Voir brimo-settings(1).
+</translation>
+    </message>
+    <message>
+        <source>Commands:</source>
+        <translation>Commandes :</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Options :</translation>
+    </message>
+    <message>
+        <source>Options take their value as &quot;--opt value&quot; or &quot;--opt=value&quot;; &quot;--&quot; ends them.</source>
+        <translation>Les options prennent leur valeur sous la forme « --opt valeur » ou
+« --opt=valeur » ; « -- » les termine.</translation>
+    </message>
+    <message>
+        <source>%1: no such command</source>
+        <translation>%1 : commande inconnue</translation>
+    </message>
+    <message>
+        <source>Usage: brimo-settings %1 [OPTION...]</source>
+        <translation>Usage : brimo-settings %1 [OPTION...]</translation>
+    </message>
+    <message>
+        <source>%1: the value holds a line break or another control character</source>
+        <translation>%1 : la valeur contient un saut de ligne ou un autre caractère de contrôle</translation>
+    </message>
+    <message>
+        <source>%1: %2 is none of %3</source>
+        <translation>%1 : %2 n&apos;est aucune des valeurs %3</translation>
+    </message>
+    <message>
+        <source>%1: %2 is no number</source>
+        <translation>%1 : %2 n&apos;est pas un nombre</translation>
+    </message>
+    <message>
+        <source>%1: %2 holds a double quote, which would end its Lisp string</source>
+        <translation>%1 : %2 contient un guillemet droit, qui terminerait sa chaîne Lisp</translation>
+    </message>
+    <message>
+        <source>%1: not KEY=VALUE</source>
+        <translation>%1 : n&apos;est pas de la forme KEY=VALUE</translation>
+    </message>
+    <message>
+        <source>%1: no key of the %2 settings</source>
+        <translation>%1 : n&apos;est pas une clé des réglages « %2 »</translation>
+    </message>
+    <message>
+        <source>%1: characters that Windows-1252 lacks are written as ?, as the dialog writes them: %2</source>
+        <translation>%1 : les caractères absents de Windows-1252 sont écrits « ? », comme les écrit la boîte de dialogue : %2</translation>
+    </message>
+    <message>
+        <source>%1 (see brimo-settings --help)</source>
+        <translation>%1 (voir brimo-settings --help)</translation>
+    </message>
+    <message>
+        <source>--prefixes-from %1: cannot be read</source>
+        <translation>--prefixes-from %1 : illisible</translation>
+    </message>
+    <message>
+        <source>the dialog whose keys get and set use (general)</source>
+        <translation>la boîte de dialogue dont get et set
+utilisent les clés (general)</translation>
+    </message>
+    <message>
+        <source>get, set, apply, restore, history: print one JSON
+document (set, apply, restore: per prefix the
+user, changed, keys with old and new values,
+files, error)</source>
+        <translation>get, set, apply, restore, history : affiche un seul
+document JSON (set, apply, restore : par préfixe
+l&apos;utilisateur, changed, les clés avec anciennes et
+nouvelles valeurs, les fichiers, error)</translation>
+    </message>
+    <message>
+        <source>get: put &quot;stored&quot; or &quot;default&quot; and a tab in front</source>
+        <translation>get : met « stored » ou « default » et une
+tabulation devant</translation>
+    </message>
+    <message>
+        <source>set, apply, restore: report what would change,
+write nothing</source>
+        <translation>set, apply, restore : indique ce qui changerait,
+n&apos;écrit rien</translation>
+    </message>
+    <message>
+        <source>exit statuses as Puppet&apos;s option of that name</source>
+        <translation>codes de sortie comme l&apos;option homonyme de
+Puppet</translation>
+    </message>
+    <message>
+        <source>a Wine prefix in place of $WINEPREFIX (repeatable)</source>
+        <translation>un préfixe Wine à la place de $WINEPREFIX
+(répétable)</translation>
+    </message>
+    <message>
+        <source>prefixes from FILE, one a line (&apos;#&apos; starts a comment)</source>
+        <translation>les préfixes de FILE, un par ligne (« # » ouvre
+un commentaire)</translation>
+    </message>
+    <message>
+        <source>the user in place of [Users] actuel of zorel.ini</source>
+        <translation>l&apos;utilisateur à la place de [Users] actuel de
+zorel.ini</translation>
+    </message>
+    <message>
+        <source>this text</source>
+        <translation>ce texte</translation>
+    </message>
+    <message>
+        <source>this text and every option as Qt lists them</source>
+        <translation>ce texte et toutes les options telles que Qt
+les liste</translation>
+    </message>
+    <message>
+        <source>The settings of Brimo&apos;s dialogs from the command line.</source>
+        <translation>Les réglages des boîtes de dialogue de Brimo en ligne de commande.</translation>
+    </message>
+    <message>
+        <source>KEY, KEY=VALUE, FILE, N or COMMAND</source>
+        <translation>KEY, KEY=VALUE, FILE, N ou COMMAND</translation>
+    </message>
+    <message>
+        <source>--dialog %1: general or slope</source>
+        <translation>--dialog %1 : general ou slope</translation>
+    </message>
+    <message>
+        <source>no such folder</source>
+        <translation>ce dossier n&apos;existe pas</translation>
+    </message>
+    <message>
+        <source>%1: %2; give the key a value</source>
+        <translation>%1 : %2 ; donnez une valeur à la clé</translation>
+    </message>
+    <message>
+        <source> and %1 more</source>
+        <translation> et %1 autres</translation>
+    </message>
+    <message>
+        <source>export takes one FILE, and at most one --prefix</source>
+        <translation>export prend un seul FILE et au plus un --prefix</translation>
+    </message>
+    <message>
+        <source>history takes no argument</source>
+        <translation>history ne prend aucun argument</translation>
+    </message>
+    <message>
+        <source>%1: %2: the stored text of %3 characters is cut to 254, as the dialog reads it</source>
+        <translation>%1 : %2 : le texte enregistré de %3 caractères est coupé à 254, comme le lit la boîte de dialogue</translation>
+    </message>
+    <message>
+        <source>%1: the stored text holds a double quote, which would end its Lisp string; give the key a value</source>
+        <translation>%1 : le texte enregistré contient un guillemet droit, qui terminerait sa chaîne Lisp ; donnez une valeur à la clé</translation>
+    </message>
+    <message>
+        <source>apply takes one FILE</source>
+        <translation>apply prend un seul FILE</translation>
+    </message>
+    <message>
+        <source>%1: cannot be read</source>
+        <translation>%1 : illisible</translation>
+    </message>
+    <message>
+        <source>%1: no key of [Brimo_Gene] or [Brimo_Talus]</source>
+        <translation>%1 : aucune clé de [Brimo_Gene] ou [Brimo_Talus]</translation>
+    </message>
+    <message>
+        <source>%1: already so</source>
+        <translation>%1 : déjà ainsi</translation>
+    </message>
+    <message>
+        <source>%1: would change</source>
+        <translation>%1 : changerait</translation>
+    </message>
+    <message>
+        <source>%1: changed</source>
+        <translation>%1 : modifié</translation>
+    </message>
+    <message>
+        <source>file %1</source>
+        <translation>fichier %1</translation>
+    </message>
+    <message>
+        <source>would change %1, already so %2, failed %3</source>
+        <translation>changeraient %1, déjà ainsi %2, en échec %3</translation>
+    </message>
+    <message>
+        <source>changed %1, already so %2, failed %3</source>
+        <translation>modifiés %1, déjà ainsi %2, en échec %3</translation>
+    </message>
+    <message>
+        <source>restore takes at most one entry number</source>
+        <translation>restore prend au plus un numéro d&apos;entrée</translation>
+    </message>
+    <message>
+        <source>%1: no entry number</source>
+        <translation>%1 : pas un numéro d&apos;entrée</translation>
     </message>
 </context>
 <context>
     <name>StartProblems</name>
     <message>
         <source>The file %1 cannot be read: %2. The dialog shows the default values, and OK will fail until the file is put right.</source>
-        <translation>Le fichier %1 ne peut pas être lu : %2. La fenêtre affiche les valeurs par défaut, et la validation échouera tant que le fichier n'aura pas été réparé.</translation>
+        <translation>Le fichier %1 ne peut pas être lu : %2. La fenêtre affiche les valeurs par défaut, et la validation échouera tant que le fichier n&apos;aura pas été réparé.</translation>
     </message>
     <message>
         <source>Another program kept the file %1 locked through the whole wait: %2. The dialog shows the file as it stands, and OK will fail while that program keeps it.</source>
-        <translation>Un autre programme a gardé le fichier %1 verrouillé pendant toute l'attente : %2. La fenêtre affiche le fichier tel qu'il est, et la validation échouera tant que ce programme le gardera.</translation>
+        <translation>Un autre programme a gardé le fichier %1 verrouillé pendant toute l&apos;attente : %2. La fenêtre affiche le fichier tel qu&apos;il est, et la validation échouera tant que ce programme le gardera.</translation>
     </message>
     <message>
         <source>The lock of the file %1 cannot be had: %2. OK will fail: nothing can be saved.</source>

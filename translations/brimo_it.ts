@@ -8,8 +8,8 @@
         <translation>La finestra resta aperta: premete di nuovo OK tra un istante.</translation>
     </message>
     <message>
-        <source>The field "%1" holds a double quote ("), which the Lisp file cannot take. Remove it, then press OK again.</source>
-        <translation>Il campo «%1» contiene un doppio apice ("), che il file Lisp non può accogliere. Toglietelo, poi premete di nuovo OK.</translation>
+        <source>The field &quot;%1&quot; holds a double quote (&quot;), which the Lisp file cannot take. Remove it, then press OK again.</source>
+        <translation>Il campo «%1» contiene un doppio apice (&quot;), che il file Lisp non può accogliere. Toglietelo, poi premete di nuovo OK.</translation>
     </message>
     <message>
         <source>The file %1 could not be written: %2.</source>
@@ -24,11 +24,11 @@
     <name>Failure</name>
     <message>
         <source>the system refused it</source>
-        <translation>il sistema l'ha rifiutato</translation>
+        <translation>il sistema l&apos;ha rifiutato</translation>
     </message>
     <message>
         <source>no room is left on the disk</source>
-        <translation>non c'è più spazio sul disco</translation>
+        <translation>non c&apos;è più spazio sul disco</translation>
     </message>
     <message>
         <source>the disk can only be read</source>
@@ -60,7 +60,7 @@
     </message>
     <message>
         <source>a folder stands where the file should be</source>
-        <translation>al posto del file c'è una cartella</translation>
+        <translation>al posto del file c&apos;è una cartella</translation>
     </message>
     <message>
         <source>the folder %1 does not exist</source>
@@ -106,8 +106,8 @@
         <translation>nessuna traccia di un salvataggio</translation>
     </message>
     <message>
-        <source>"%1" names no file of the user's folder</source>
-        <translation>«%1» non indica alcun file della cartella dell'utente</translation>
+        <source>&quot;%1&quot; names no file of the user&apos;s folder</source>
+        <translation>«%1» non indica alcun file della cartella dell&apos;utente</translation>
     </message>
     <message>
         <source>no entry %1</source>
@@ -123,6 +123,305 @@
     </message>
 </context>
 <context>
+    <name>SettingsText</name>
+    <message>
+        <source>print each value the dialog would open with (all keys
+when none is given), as KEY=VALUE lines</source>
+        <translation>mostra ogni valore con cui si aprirebbe la finestra
+(tutte le chiavi se non ne è indicata nessuna),
+come righe KEY=VALUE</translation>
+    </message>
+    <message>
+        <source>check each value as its field does, then write both
+files as the dialog&apos;s OK does; keys not given keep what
+the dialog opens with</source>
+        <translation>controlla ogni valore come fa il suo campo, poi scrive
+entrambi i file come l&apos;OK della finestra; le chiavi non
+indicate mantengono il valore con cui essa si apre</translation>
+    </message>
+    <message>
+        <source>write what each dialog&apos;s OK would write for the user
+(both sections) to a profile file; FILE &quot;-&quot; is the
+standard output</source>
+        <translation>scrive in un file di profilo ciò che l&apos;OK di ogni
+finestra scriverebbe per l&apos;utente (entrambe le
+sezioni); FILE &quot;-&quot; è lo standard output</translation>
+    </message>
+    <message>
+        <source>set the keys of [Brimo_Gene] and [Brimo_Talus] of a
+profile file; FILE &quot;-&quot; is the standard input</source>
+        <translation>imposta le chiavi di [Brimo_Gene] e [Brimo_Talus] di un
+file di profilo; FILE &quot;-&quot; è lo standard input</translation>
+    </message>
+    <message>
+        <source>list the last 20 commits of the user&apos;s files (by the
+dialogs&apos; OK, set, apply, restore): number, time,
+program, what, keys changed</source>
+        <translation>elenca gli ultimi 20 salvataggi dei file dell&apos;utente
+(dall&apos;OK delle finestre, set, apply, restore): numero,
+ora, programma, azione, chiavi cambiate</translation>
+    </message>
+    <message>
+        <source>bring back both files as they were before the last
+commit, or before commit N of the history; recorded
+in the history in turn</source>
+        <translation>riporta entrambi i file com&apos;erano prima dell&apos;ultimo
+salvataggio, o prima del salvataggio N della
+cronologia; registrato a sua volta nella cronologia</translation>
+    </message>
+    <message>
+        <source>this text, or the usage of one command</source>
+        <translation>questo testo, o l&apos;uso di un comando</translation>
+    </message>
+    <message>
+        <source>the version</source>
+        <translation>la versione</translation>
+    </message>
+    <message>
+        <source>Usage: brimo-settings COMMAND [OPTION...] [ARGUMENT...]
+
+Reads and writes the settings of the Zorel add-on&apos;s variable editor (Brimo)
+as its dialogs do: the values of section Brimo_Gene (general dialog) or
+Brimo_Talus (slope dialog) of the user&apos;s Brimo.ini, and the Lisp files.
+</source>
+        <translation>Uso: brimo-settings COMMAND [OPTION...] [ARGUMENT...]
+
+Legge e scrive le impostazioni dell&apos;editor di variabili (Brimo) del modulo
+Zorel come fanno le sue finestre: i valori della sezione Brimo_Gene
+(finestra generale) o Brimo_Talus (finestra delle scarpate) del Brimo.ini
+dell&apos;utente, e i file Lisp.
+</translation>
+    </message>
+    <message>
+        <source>Exit status:
+  0  done, whether or not anything changed
+  2  refused: a bad option, unknown key, value that is no number, value out
+     of its choices, double quote or control character in a text; nothing
+     was written
+  3  some prefix failed (reported); the other prefixes went on
+With --detailed-exitcodes (Puppet&apos;s convention):
+  0  done, nothing changed (with --check: nothing would change)
+  1  refused, nothing tried
+  2  done, some files changed (with --check: would change)
+  4  some prefix failed, nothing changed elsewhere
+  6  some prefix failed, and some other changed
+
+See brimo-settings(1).
+</source>
+        <translation>Codice di uscita:
+  0  fatto, che qualcosa sia cambiato o no
+  2  rifiutato: opzione errata, chiave sconosciuta, valore che non è un
+     numero, valore fuori dalle sue scelte, virgolette doppie o carattere
+     di controllo in un testo; nulla è stato scritto
+  3  un prefisso non è riuscito (segnalato); gli altri sono andati avanti
+Con --detailed-exitcodes (la convenzione di Puppet):
+  0  fatto, nulla è cambiato (con --check: nulla cambierebbe)
+  1  rifiutato, nulla tentato
+  2  fatto, alcuni file sono cambiati (con --check: cambierebbero)
+  4  un prefisso non è riuscito, altrove nulla è cambiato
+  6  un prefisso non è riuscito, e un altro è cambiato
+
+Vedere brimo-settings(1).
+</translation>
+    </message>
+    <message>
+        <source>Commands:</source>
+        <translation>Comandi:</translation>
+    </message>
+    <message>
+        <source>Options:</source>
+        <translation>Opzioni:</translation>
+    </message>
+    <message>
+        <source>Options take their value as &quot;--opt value&quot; or &quot;--opt=value&quot;; &quot;--&quot; ends them.</source>
+        <translation>Le opzioni prendono il loro valore come &quot;--opt valore&quot; o &quot;--opt=valore&quot;;
+&quot;--&quot; le termina.</translation>
+    </message>
+    <message>
+        <source>%1: no such command</source>
+        <translation>%1: comando sconosciuto</translation>
+    </message>
+    <message>
+        <source>Usage: brimo-settings %1 [OPTION...]</source>
+        <translation>Uso: brimo-settings %1 [OPTION...]</translation>
+    </message>
+    <message>
+        <source>%1: the value holds a line break or another control character</source>
+        <translation>%1: il valore contiene un a capo o un altro carattere di controllo</translation>
+    </message>
+    <message>
+        <source>%1: %2 is none of %3</source>
+        <translation>%1: %2 non è nessuno dei valori %3</translation>
+    </message>
+    <message>
+        <source>%1: %2 is no number</source>
+        <translation>%1: %2 non è un numero</translation>
+    </message>
+    <message>
+        <source>%1: %2 holds a double quote, which would end its Lisp string</source>
+        <translation>%1: %2 contiene delle virgolette doppie, che chiuderebbero la sua stringa Lisp</translation>
+    </message>
+    <message>
+        <source>%1: not KEY=VALUE</source>
+        <translation>%1: non è nella forma KEY=VALUE</translation>
+    </message>
+    <message>
+        <source>%1: no key of the %2 settings</source>
+        <translation>%1: non è una chiave delle impostazioni «%2»</translation>
+    </message>
+    <message>
+        <source>%1: characters that Windows-1252 lacks are written as ?, as the dialog writes them: %2</source>
+        <translation>%1: i caratteri assenti da Windows-1252 sono scritti come ?, come li scrive la finestra: %2</translation>
+    </message>
+    <message>
+        <source>%1 (see brimo-settings --help)</source>
+        <translation>%1 (vedere brimo-settings --help)</translation>
+    </message>
+    <message>
+        <source>--prefixes-from %1: cannot be read</source>
+        <translation>--prefixes-from %1: non può essere letto</translation>
+    </message>
+    <message>
+        <source>the dialog whose keys get and set use (general)</source>
+        <translation>la finestra le cui chiavi usano get e set
+(general)</translation>
+    </message>
+    <message>
+        <source>get, set, apply, restore, history: print one JSON
+document (set, apply, restore: per prefix the
+user, changed, keys with old and new values,
+files, error)</source>
+        <translation>get, set, apply, restore, history: stampa un unico
+documento JSON (set, apply, restore: per prefisso
+l&apos;utente, changed, le chiavi con valori vecchi e
+nuovi, i file, error)</translation>
+    </message>
+    <message>
+        <source>get: put &quot;stored&quot; or &quot;default&quot; and a tab in front</source>
+        <translation>get: mette davanti &quot;stored&quot; o &quot;default&quot; e una
+tabulazione</translation>
+    </message>
+    <message>
+        <source>set, apply, restore: report what would change,
+write nothing</source>
+        <translation>set, apply, restore: riporta cosa cambierebbe,
+non scrive nulla</translation>
+    </message>
+    <message>
+        <source>exit statuses as Puppet&apos;s option of that name</source>
+        <translation>codici di uscita come l&apos;omonima opzione di
+Puppet</translation>
+    </message>
+    <message>
+        <source>a Wine prefix in place of $WINEPREFIX (repeatable)</source>
+        <translation>un prefisso Wine al posto di $WINEPREFIX
+(ripetibile)</translation>
+    </message>
+    <message>
+        <source>prefixes from FILE, one a line (&apos;#&apos; starts a comment)</source>
+        <translation>prefissi da FILE, uno per riga (&apos;#&apos; inizia un
+commento)</translation>
+    </message>
+    <message>
+        <source>the user in place of [Users] actuel of zorel.ini</source>
+        <translation>l&apos;utente al posto di [Users] actuel di
+zorel.ini</translation>
+    </message>
+    <message>
+        <source>this text</source>
+        <translation>questo testo</translation>
+    </message>
+    <message>
+        <source>this text and every option as Qt lists them</source>
+        <translation>questo testo e tutte le opzioni come le
+elenca Qt</translation>
+    </message>
+    <message>
+        <source>The settings of Brimo&apos;s dialogs from the command line.</source>
+        <translation>Le impostazioni delle finestre di Brimo dalla riga di comando.</translation>
+    </message>
+    <message>
+        <source>KEY, KEY=VALUE, FILE, N or COMMAND</source>
+        <translation>KEY, KEY=VALUE, FILE, N o COMMAND</translation>
+    </message>
+    <message>
+        <source>--dialog %1: general or slope</source>
+        <translation>--dialog %1: general o slope</translation>
+    </message>
+    <message>
+        <source>no such folder</source>
+        <translation>questa cartella non esiste</translation>
+    </message>
+    <message>
+        <source>%1: %2; give the key a value</source>
+        <translation>%1: %2; assegnate un valore alla chiave</translation>
+    </message>
+    <message>
+        <source> and %1 more</source>
+        <translation> e altre %1</translation>
+    </message>
+    <message>
+        <source>export takes one FILE, and at most one --prefix</source>
+        <translation>export richiede un solo FILE e al massimo un --prefix</translation>
+    </message>
+    <message>
+        <source>history takes no argument</source>
+        <translation>history non accetta argomenti</translation>
+    </message>
+    <message>
+        <source>%1: %2: the stored text of %3 characters is cut to 254, as the dialog reads it</source>
+        <translation>%1: %2: il testo salvato di %3 caratteri è tagliato a 254, come lo legge la finestra</translation>
+    </message>
+    <message>
+        <source>%1: the stored text holds a double quote, which would end its Lisp string; give the key a value</source>
+        <translation>%1: il testo salvato contiene delle virgolette doppie, che chiuderebbero la sua stringa Lisp; assegnate un valore alla chiave</translation>
+    </message>
+    <message>
+        <source>apply takes one FILE</source>
+        <translation>apply richiede un solo FILE</translation>
+    </message>
+    <message>
+        <source>%1: cannot be read</source>
+        <translation>%1: non può essere letto</translation>
+    </message>
+    <message>
+        <source>%1: no key of [Brimo_Gene] or [Brimo_Talus]</source>
+        <translation>%1: nessuna chiave di [Brimo_Gene] o [Brimo_Talus]</translation>
+    </message>
+    <message>
+        <source>%1: already so</source>
+        <translation>%1: già così</translation>
+    </message>
+    <message>
+        <source>%1: would change</source>
+        <translation>%1: cambierebbe</translation>
+    </message>
+    <message>
+        <source>%1: changed</source>
+        <translation>%1: modificato</translation>
+    </message>
+    <message>
+        <source>file %1</source>
+        <translation>file: %1</translation>
+    </message>
+    <message>
+        <source>would change %1, already so %2, failed %3</source>
+        <translation>cambierebbero %1, già così %2, falliti %3</translation>
+    </message>
+    <message>
+        <source>changed %1, already so %2, failed %3</source>
+        <translation>modificati %1, già così %2, falliti %3</translation>
+    </message>
+    <message>
+        <source>restore takes at most one entry number</source>
+        <translation>restore accetta al massimo un numero di voce</translation>
+    </message>
+    <message>
+        <source>%1: no entry number</source>
+        <translation>%1: non è un numero di voce</translation>
+    </message>
+</context>
+<context>
     <name>StartProblems</name>
     <message>
         <source>The file %1 cannot be read: %2. The dialog shows the default values, and OK will fail until the file is put right.</source>
@@ -130,7 +429,7 @@
     </message>
     <message>
         <source>Another program kept the file %1 locked through the whole wait: %2. The dialog shows the file as it stands, and OK will fail while that program keeps it.</source>
-        <translation>Un altro programma ha tenuto bloccato il file %1 per tutta l'attesa: %2. La finestra mostra il file così com'è, e OK non riuscirà finché quel programma lo terrà bloccato.</translation>
+        <translation>Un altro programma ha tenuto bloccato il file %1 per tutta l&apos;attesa: %2. La finestra mostra il file così com&apos;è, e OK non riuscirà finché quel programma lo terrà bloccato.</translation>
     </message>
     <message>
         <source>The lock of the file %1 cannot be had: %2. OK will fail: nothing can be saved.</source>

@@ -1,8 +1,8 @@
 #include "model/ProgramLanguage.h"
 
 #include <QCoreApplication>
+#include <QLibraryInfo>
 #include <QTranslator>
-
 
 namespace brimo {
 
@@ -20,7 +20,13 @@ constexpr ProgramLanguageRow kProgramLanguages[] = {
     {"ITA", "it"},
 };
 
+// Ours, built in, and Qt's own (the buttons of a message box, the command
+// line's errors), from Debian's qt6-translations-l10n when it is installed.
 QTranslator& translator() {
+    static QTranslator* installed = new QTranslator(QCoreApplication::instance());
+    return *installed;
+}
+QTranslator& qtTranslator() {
     static QTranslator* installed = new QTranslator(QCoreApplication::instance());
     return *installed;
 }
@@ -29,10 +35,16 @@ QTranslator& translator() {
 
 void SetProgramLanguage(const QString& code) {
     QCoreApplication::removeTranslator(&translator());
-    for (const ProgramLanguageRow& row : kProgramLanguages)
-        if (code.compare(QLatin1String(row.code), Qt::CaseInsensitive) == 0 &&
-            translator().load(QStringLiteral(":/i18n/brimo_%1.qm").arg(QLatin1String(row.locale))))
+    QCoreApplication::removeTranslator(&qtTranslator());
+    for (const ProgramLanguageRow& row : kProgramLanguages) {
+        if (code.compare(QLatin1String(row.code), Qt::CaseInsensitive) != 0) continue;
+        const QString locale = QLatin1String(row.locale);
+        if (translator().load(QStringLiteral(":/i18n/brimo_%1.qm").arg(locale)))
             QCoreApplication::installTranslator(&translator());
+        if (locale != QLatin1String("en") &&
+            qtTranslator().load(QStringLiteral("qtbase_") + locale, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
+            QCoreApplication::installTranslator(&qtTranslator());
+    }
 }
 
 QString LanguageOfEnvironment() {

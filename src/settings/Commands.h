@@ -2,10 +2,12 @@
 // Settings tool (src/settings): brimo-settings, the dialogs' settings from the
 // command line; it sees platform and model, and nothing sees it.
 //
-// The four commands. Each returns the exit status of the tool.
+// The commands. Each says what it did, from which main() gives the exit status.
 
 #include "platform/WindowsPaths.h"
 #include "settings/Options.h"
+
+#include <QCoreApplication>
 
 #include <functional>
 
@@ -53,6 +55,12 @@ RunResult RunRestore(const Options& options);
 // Returns the number of failures.
 int ForEachPrefix(const Options& options, const std::function<bool(const WinePrefix& prefix)>& each,
                   const std::function<void(const QString& prefix, const QString& error)>& failed = {});
+
+// The tool's own sentences, in the language of the locale's messages
+// (SettingsText::tr); key names, values, JSON keys and statuses stay as they are.
+struct SettingsText {
+    Q_DECLARE_TR_FUNCTIONS(SettingsText)
+};
 
 // Text on the standard output and the standard error, in UTF-8. Complain
 // shows its text as Printable does.

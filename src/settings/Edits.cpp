@@ -31,7 +31,7 @@ bool unwritableQuote(const SettingKey& key, const QString& text) {
 
 std::optional<QString> CheckedValue(const SettingKey& key, const QString& given, QString* error) {
     if (holdsControl(given)) {
-        *error = QStringLiteral("%1: the value holds a line break or another control character").arg(key.key);
+        *error = SettingsText::tr("%1: the value holds a line break or another control character").arg(key.key);
         return std::nullopt;
     }
     switch (key.kind) {
@@ -41,12 +41,12 @@ std::optional<QString> CheckedValue(const SettingKey& key, const QString& given,
         [[fallthrough]];
     case KeyKind::Choice:
         if (key.choices.contains(given)) return given;
-        *error = QStringLiteral("%1: %2 is none of %3").arg(key.key, quoted(given), key.choices.join(QStringLiteral(", ")));
+        *error = SettingsText::tr("%1: %2 is none of %3").arg(key.key, quoted(given), key.choices.join(QStringLiteral(", ")));
         return std::nullopt;
     case KeyKind::RuleText: {
         const LeaveOutcome outcome = ApplyLeavingRule(*key.rule, given);
         if (outcome.refused) {
-            *error = QStringLiteral("%1: %2 is no number").arg(key.key, quoted(given));
+            *error = SettingsText::tr("%1: %2 is no number").arg(key.key, quoted(given));
             return std::nullopt;
         }
         if (unwritableQuote(key, outcome.text)) break;
@@ -56,20 +56,20 @@ std::optional<QString> CheckedValue(const SettingKey& key, const QString& given,
         if (unwritableQuote(key, given)) break;
         return given;
     }
-    *error = QStringLiteral("%1: %2 holds a double quote, which would end its Lisp string").arg(key.key, quoted(given));
+    *error = SettingsText::tr("%1: %2 holds a double quote, which would end its Lisp string").arg(key.key, quoted(given));
     return std::nullopt;
 }
 
 std::optional<Edit> ParseEdit(SettingSection section, const QString& assignment, QString* error) {
     const qsizetype equals = assignment.indexOf(QLatin1Char('='));
     if (equals <= 0) {
-        *error = QStringLiteral("%1: not KEY=VALUE").arg(quoted(assignment));
+        *error = SettingsText::tr("%1: not KEY=VALUE").arg(quoted(assignment));
         return std::nullopt;
     }
     const QString name = assignment.left(equals);
     const SettingKey* key = FindSettingKey(section, name);
     if (!key) {
-        *error = QStringLiteral("%1: no key of the %2 settings").arg(name, DialogName(section));
+        *error = SettingsText::tr("%1: no key of the %2 settings").arg(name, DialogName(section));
         return std::nullopt;
     }
     const std::optional<QString> value = CheckedValue(*key, assignment.mid(equals + 1), error);
@@ -77,7 +77,7 @@ std::optional<Edit> ParseEdit(SettingSection section, const QString& assignment,
     // Both files are Windows-1252: what it lacks goes in as '?', as the
     // dialog's OK writes it; the user hears of it.
     if (fromCp1252(toCp1252(*value)) != *value)
-        Complain(QStringLiteral("%1: characters that Windows-1252 lacks are written as ?, as the dialog writes them: %2")
+        Complain(SettingsText::tr("%1: characters that Windows-1252 lacks are written as ?, as the dialog writes them: %2")
                      .arg(key->key, quoted(fromCp1252(toCp1252(*value)))));
     return Edit{key, *value};
 }

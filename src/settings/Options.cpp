@@ -15,7 +15,7 @@ namespace {
 bool readPrefixList(const QString& file, QStringList& prefixes, QString* error) {
     const std::optional<QByteArray> bytes = ReadGivenFile(file);
     if (!bytes) {
-        *error = QStringLiteral("--prefixes-from %1: cannot be read").arg(file);
+        *error = SettingsText::tr("--prefixes-from %1: cannot be read").arg(file);
         return false;
     }
     for (const QString& line : DecodeNativeText(*bytes).split(QLatin1Char('\n'))) {
@@ -26,34 +26,34 @@ bool readPrefixList(const QString& file, QStringList& prefixes, QString* error) 
 }
 
 constexpr OptionRow kOptions[] = {
-    {"dialog", "", "general|slope", "the dialog whose keys get and set use (general)"},
-    {"json", "", "", "get, set, apply, restore, history: print one JSON\ndocument (set, apply, restore: per prefix the\n"
-                     "user, changed, keys with old and new values,\nfiles, error)"},
-    {"origin", "", "", "get: put \"stored\" or \"default\" and a tab in front"},
-    {"check", "", "", "set, apply, restore: report what would change,\nwrite nothing"},
-    {"detailed-exitcodes", "", "", "exit statuses as Puppet's option of that name"},
-    {"prefix", "", "DIR", "a Wine prefix in place of $WINEPREFIX (repeatable)"},
-    {"prefixes-from", "", "FILE", "prefixes from FILE, one a line ('#' starts a comment)"},
-    {"user", "", "NAME", "the user in place of [Users] actuel of zorel.ini"},
-    {"help", "h", "", "this text"},
-    {"help-all", "", "", "this text and every option as Qt lists them"},
-    {"version", "", "", "the version"},
+    {"dialog", "", "general|slope", QT_TRANSLATE_NOOP("SettingsText", "the dialog whose keys get and set use (general)")},
+    {"json", "", "", QT_TRANSLATE_NOOP("SettingsText", "get, set, apply, restore, history: print one JSON\ndocument (set, apply, restore: per prefix the\n"
+                     "user, changed, keys with old and new values,\nfiles, error)")},
+    {"origin", "", "", QT_TRANSLATE_NOOP("SettingsText", "get: put \"stored\" or \"default\" and a tab in front")},
+    {"check", "", "", QT_TRANSLATE_NOOP("SettingsText", "set, apply, restore: report what would change,\nwrite nothing")},
+    {"detailed-exitcodes", "", "", QT_TRANSLATE_NOOP("SettingsText", "exit statuses as Puppet's option of that name")},
+    {"prefix", "", "DIR", QT_TRANSLATE_NOOP("SettingsText", "a Wine prefix in place of $WINEPREFIX (repeatable)")},
+    {"prefixes-from", "", "FILE", QT_TRANSLATE_NOOP("SettingsText", "prefixes from FILE, one a line ('#' starts a comment)")},
+    {"user", "", "NAME", QT_TRANSLATE_NOOP("SettingsText", "the user in place of [Users] actuel of zorel.ini")},
+    {"help", "h", "", QT_TRANSLATE_NOOP("SettingsText", "this text")},
+    {"help-all", "", "", QT_TRANSLATE_NOOP("SettingsText", "this text and every option as Qt lists them")},
+    {"version", "", "", QT_TRANSLATE_NOOP("SettingsText", "the version")},
 };
 
 struct Parser {
     QCommandLineParser parser;
     Parser() {
-        parser.setApplicationDescription(QStringLiteral("The settings of Brimo's dialogs from the command line."));
+        parser.setApplicationDescription(SettingsText::tr("The settings of Brimo's dialogs from the command line."));
         for (const OptionRow& row : kOptions) {
             QStringList names{QLatin1String(row.name)};
             if (*row.shortName) names.prepend(QLatin1String(row.shortName));
-            parser.addOption({names, QString::fromUtf8(row.description).replace(QLatin1Char('\n'), QLatin1Char(' ')) + QLatin1Char('.'),
+            parser.addOption({names, row.text().replace(QLatin1Char('\n'), QLatin1Char(' ')) + QLatin1Char('.'),
                               QLatin1String(row.value)});
         }
         QStringList commands;
         for (const CommandRow& row : kCommandTable) commands.append(QLatin1String(row.name));
         parser.addPositionalArgument(QStringLiteral("command"), commands.join(QStringLiteral(", ")));
-        parser.addPositionalArgument(QStringLiteral("arguments"), QStringLiteral("KEY, KEY=VALUE, FILE, N or COMMAND"),
+        parser.addPositionalArgument(QStringLiteral("arguments"), SettingsText::tr("KEY, KEY=VALUE, FILE, N or COMMAND"),
                                      QStringLiteral("[ARGUMENT...]"));
     }
     bool isSet(const char* name) const { return parser.isSet(QLatin1String(name)); }
@@ -67,6 +67,8 @@ QString OptionRow::term() const {
     QString term = *shortName ? QStringLiteral("-%1, ").arg(QLatin1String(shortName)) + spelling() : spelling();
     return *value ? term + QLatin1Char(' ') + QLatin1String(value) : term;
 }
+
+QString OptionRow::text() const { return SettingsText::tr(description); }
 
 std::span<const OptionRow> OptionTable() { return kOptions; }
 
@@ -99,13 +101,13 @@ std::optional<Options> ParseOptions(const QStringList& arguments, QString* error
         if (dialog == QLatin1String("general")) options.section = SettingSection::General;
         else if (dialog == QLatin1String("slope")) options.section = SettingSection::Slope;
         else {
-            *error = QStringLiteral("--dialog %1: general or slope").arg(dialog);
+            *error = SettingsText::tr("--dialog %1: general or slope").arg(dialog);
             return std::nullopt;
         }
     }
     if (options.command.isEmpty()) options.command = QStringLiteral("help");
     if (!FindCommand(options.command)) {
-        *error = QStringLiteral("%1: no such command").arg(options.command);
+        *error = SettingsText::tr("%1: no such command").arg(options.command);
         return std::nullopt;
     }
     return options;

@@ -32,7 +32,8 @@ struct OptionRow {
     const char* name;        // without "--"
     const char* shortName;   // "h", or ""
     const char* value;       // the name of its value, or "" for a switch
-    const char* description; // in lines of the usage's width
+    const char* description; // in lines of the usage's width, translated by text()
+    QString text() const;     // the description in the language of the messages
     QString spelling() const; // "--dialog"
     QString term() const;     // "-h, --help", "--dialog general|slope"
 };

@@ -42,8 +42,9 @@ int ForEachPrefix(const Options& options, const std::function<bool(const WinePre
         const QString& inForce = prefix.folder;
         const QString name = prefix.name();
         if (!QFileInfo(inForce).isDir()) {
-            Complain(QStringLiteral("%1: no such folder").arg(name));
-            if (missing) missing(name, QStringLiteral("no such folder"));
+            const QString error = SettingsText::tr("no such folder");
+            Complain(QStringLiteral("%1: %2").arg(name, error));
+            if (missing) missing(name, error);
             ++failures;
             continue;
         }

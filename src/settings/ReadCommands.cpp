@@ -52,7 +52,7 @@ bool exportable(const UserFiles& user, SettingSection section, const QList<Shown
     for (const ShownValue& value : values) {
         QString error;
         if (ParseEdit(section, value.key + QLatin1Char('=') + value.value, &error)) continue;
-        Complain(QStringLiteral("%1: %2; give the key a value").arg(user.info().prefix.name(), error));
+        Complain(SettingsText::tr("%1: %2; give the key a value").arg(user.info().prefix.name(), error));
         all = false;
     }
     return all;
@@ -73,7 +73,7 @@ QJsonObject jsonOf(const QString& prefix, const UserFiles& user, SettingSection 
 // The keys of a history line: the first five, then how many more.
 QString shortList(const QStringList& keys) {
     if (keys.size() <= 5) return keys.join(QLatin1Char(' '));
-    return keys.mid(0, 5).join(QLatin1Char(' ')) + QStringLiteral(" and %1 more").arg(keys.size() - 5);
+    return keys.mid(0, 5).join(QLatin1Char(' ')) + SettingsText::tr(" and %1 more").arg(keys.size() - 5);
 }
 
 } // namespace
@@ -81,7 +81,7 @@ QString shortList(const QStringList& keys) {
 RunResult RunGet(const Options& options) {
     for (const QString& key : options.arguments)
         if (!FindSettingKey(options.section, key)) {
-            Complain(QStringLiteral("%1: no key of the %2 settings").arg(key, DialogName(options.section)));
+            Complain(SettingsText::tr("%1: no key of the %2 settings").arg(key, DialogName(options.section)));
             return {true};
         }
     QJsonArray json;
@@ -106,7 +106,7 @@ RunResult RunGet(const Options& options) {
 
 RunResult RunExport(const Options& options) {
     if (options.arguments.size() != 1 || options.prefixes.size() > 1) {
-        Complain(QStringLiteral("export takes one FILE, and at most one --prefix"));
+        Complain(SettingsText::tr("export takes one FILE, and at most one --prefix"));
         return {true};
     }
     ProfileDocument profile;
@@ -141,7 +141,7 @@ RunResult RunExport(const Options& options) {
 
 RunResult RunHistory(const Options& options) {
     if (!options.arguments.isEmpty()) {
-        Complain(QStringLiteral("history takes no argument"));
+        Complain(SettingsText::tr("history takes no argument"));
         return {true};
     }
     QJsonArray json;

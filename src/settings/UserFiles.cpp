@@ -66,7 +66,7 @@ std::optional<QList<CommittedRow>> UserFiles::planCommit(CommitPlan& plan, Setti
     for (const SettingKey& key : SettingKeys(section)) {
         const qsizetype length = ini_.getString(toCp1252(SectionName(section)), toCp1252(key.key), 1 << 30).size();
         if (length > 254 && std::none_of(edits.begin(), edits.end(), [&](const Edit& e) { return e.key == &key; }))
-            Complain(QStringLiteral("%1: %2: the stored text of %3 characters is cut to 254, as the dialog reads it")
+            Complain(SettingsText::tr("%1: %2: the stored text of %3 characters is cut to 254, as the dialog reads it")
                          .arg(info_.prefix.name(), key.key)
                          .arg(length));
     }
@@ -75,8 +75,8 @@ std::optional<QList<CommittedRow>> UserFiles::planCommit(CommitPlan& plan, Setti
     ApplyEdits(edit.edited, edits);
     PlannedGeneralCommit planned = PlanGeneralCommit(plan, info_, edit);
     if (const std::optional<UnwritableField>& field = planned.unwritable) {
-        *error = QStringLiteral("%1: the stored text holds a double quote, which would end its Lisp string; "
-                                "give the key a value")
+        *error = SettingsText::tr("%1: the stored text holds a double quote, which would end its Lisp string; "
+                                          "give the key a value")
                      .arg(FindSettingKey(section, field->key) ? FindSettingKey(section, field->key)->key : field->key);
         return std::nullopt;
     }

@@ -58,13 +58,13 @@ std::optional<QByteArray> readInput(const QString& file) {
 SectionEdits editsOfProfile(const Options& options, QStringList& refusals) {
     SectionEdits all;
     if (options.arguments.size() != 1) {
-        refuse(QStringLiteral("apply takes one FILE"), refusals);
+        refuse(SettingsText::tr("apply takes one FILE"), refusals);
         return all;
     }
     const QString& file = options.arguments.first();
     const std::optional<QByteArray> bytes = readInput(file);
     if (!bytes) {
-        refuse(QStringLiteral("%1: cannot be read").arg(file), refusals);
+        refuse(SettingsText::tr("%1: cannot be read").arg(file), refusals);
         return all;
     }
     const ProfileDocument profile(*bytes);
@@ -77,7 +77,7 @@ SectionEdits editsOfProfile(const Options& options, QStringList& refusals) {
         if (!edits.isEmpty()) all.append({section, edits});
     }
     if (all.isEmpty() && refusals.isEmpty())
-        refuse(QStringLiteral("%1: no key of [Brimo_Gene] or [Brimo_Talus]").arg(file), refusals);
+        refuse(SettingsText::tr("%1: no key of [Brimo_Gene] or [Brimo_Talus]").arg(file), refusals);
     return all;
 }
 
@@ -106,13 +106,14 @@ QJsonObject jsonOf(const PrefixReport& report) {
 
 void printText(const PrefixReport& report, bool check) {
     if (!report.changed) {
-        Print(QStringLiteral("%1: already so\n").arg(Printable(report.prefix)));
+        Print(SettingsText::tr("%1: already so").arg(Printable(report.prefix)) + QLatin1Char('\n'));
         return;
     }
-    QString text = QStringLiteral("%1: %2\n").arg(Printable(report.prefix), check ? "would change" : "changed");
+    QString text = (check ? SettingsText::tr("%1: would change") : SettingsText::tr("%1: changed")).arg(Printable(report.prefix)) +
+                   QLatin1Char('\n');
     for (const QStringList& key : report.keys)
         text += QStringLiteral("  %1: \"%2\" -> \"%3\"\n").arg(Printable(key[1]), Printable(key[2]), Printable(key[3]));
-    for (const QString& file : report.files) text += QStringLiteral("  file %1\n").arg(Printable(file));
+    for (const QString& file : report.files) text += QStringLiteral("  ") + SettingsText::tr("file %1").arg(Printable(file)) + QLatin1Char('\n');
     Print(text);
 }
 
@@ -174,11 +175,12 @@ RunResult reportEverywhere(const Options& options, const QStringList& refusals,
             if (options.json) prefixes.append(jsonOf({prefix, {}, false, {}, {}, error}));
         });
         if (!options.json)
-            Print(QStringLiteral("%1 %2, already so %3, failed %4\n")
-                      .arg(options.check ? "would change" : "changed")
+            Print((options.check ? SettingsText::tr("would change %1, already so %2, failed %3")
+                                 : SettingsText::tr("changed %1, already so %2, failed %3"))
                       .arg(result.changed)
                       .arg(alreadySo)
-                      .arg(result.failed));
+                      .arg(result.failed) +
+                  QLatin1Char('\n'));
     }
     if (options.json) {
         const char* status = result.refused  ? "refused"
@@ -254,11 +256,11 @@ RunResult RunApply(const Options& options) {
 RunResult RunRestore(const Options& options) {
     QStringList refusals;
     int number = 0;
-    if (options.arguments.size() > 1) refuse(QStringLiteral("restore takes at most one entry number"), refusals);
+    if (options.arguments.size() > 1) refuse(SettingsText::tr("restore takes at most one entry number"), refusals);
     else if (options.arguments.size() == 1) {
         bool ok = false;
         number = options.arguments.first().toInt(&ok);
-        if (!ok || number <= 0) refuse(QStringLiteral("%1: no entry number").arg(options.arguments.first()), refusals);
+        if (!ok || number <= 0) refuse(SettingsText::tr("%1: no entry number").arg(options.arguments.first()), refusals);
     }
     return reportEverywhere(options, refusals,
                             [&](const WinePrefix& prefix) { return restoreOnPrefix(options, number, prefix); });

@@ -1,5 +1,6 @@
 // brimo-settings: the settings of the general and slope dialogs from the
 // command line, read and written as the dialogs read and write them.
+#include "model/ProgramLanguage.h"
 #include "settings/CommandTable.h"
 
 #include <QCoreApplication>
@@ -11,6 +12,9 @@
 int main(int argc, char** argv) {
     using namespace brimo;
     QCoreApplication application(argc, argv);
+    // Its own sentences in the language of the locale's messages, as Debian's
+    // tools speak; keys, values, JSON keys and statuses never change with it.
+    SetProgramLanguage(LanguageOfEnvironment());
     // A write past the file size limit then fails with EFBIG and is reported
     // as any failed write, instead of killing the tool.
     std::signal(SIGXFSZ, SIG_IGN);
@@ -21,7 +25,7 @@ int main(int argc, char** argv) {
     QString error;
     const std::optional<Options> options = ParseOptions(arguments, &error);
     if (!options) {
-        Complain(error + QStringLiteral(" (see brimo-settings --help)"));
+        Complain(SettingsText::tr("%1 (see brimo-settings --help)").arg(error));
         return ExitStatusOf({true}, arguments.contains(QStringLiteral("--detailed-exitcodes")));
     }
     const RunResult result = FindCommand(options->command)->run(*options);

@@ -16,7 +16,9 @@ SU=
 trap 'rm -rf "$T"; [ -n "$SU" ] && userdel "$SU"' EXIT
 export LC_ALL=C.UTF-8 QT_QPA_PLATFORM=offscreen PATH=$(dirname "$SETTINGS"):$PATH
 
-S() { LC_ALL=$LOCALE timeout 10 "$SETTINGS" "$@"; }
+# The locale's numbers and money, with messages in English (LANG=C) unless
+# a row sets MESSAGES (a locale, as LC_MESSAGES) to hear brimo-settings' own words.
+S() { env -u LC_ALL LANG=C.UTF-8 LC_NUMERIC=$LOCALE LC_MONETARY=$LOCALE LC_MESSAGES=${MESSAGES:-C.UTF-8} timeout 10 "$SETTINGS" "$@"; }
 zorel() { printf '[Chemins]\r\nZorel=C:\\Zorel\r\nVariables=%s\r\n[Users]\r\nactuel=%s\r\n' "$1" "$2" > "${3:-$C}/windows/zorel.ini"; }
 # A prefix at $1 whose user is Jean.
 prefix() {
