@@ -98,6 +98,10 @@
         <source>another program holds the lock</source>
         <translation>ein anderes Programm hält die Sperre</translation>
     </message>
+    <message>
+        <source>process %1 holds the lock</source>
+        <translation>Prozess %1 hält die Sperre</translation>
+    </message>
 </context>
 <context>
     <name>History</name>

@@ -98,6 +98,10 @@
         <source>another program holds the lock</source>
         <translation>another program holds the lock</translation>
     </message>
+    <message>
+        <source>process %1 holds the lock</source>
+        <translation>process %1 holds the lock</translation>
+    </message>
 </context>
 <context>
     <name>History</name>

@@ -98,6 +98,10 @@
         <source>another program holds the lock</source>
         <translation>un autre programme détient le verrou</translation>
     </message>
+    <message>
+        <source>process %1 holds the lock</source>
+        <translation>le processus %1 détient le verrou</translation>
+    </message>
 </context>
 <context>
     <name>History</name>

@@ -98,6 +98,10 @@
         <source>another program holds the lock</source>
         <translation>un altro programma detiene il blocco</translation>
     </message>
+    <message>
+        <source>process %1 holds the lock</source>
+        <translation>il processo %1 detiene il blocco</translation>
+    </message>
 </context>
 <context>
     <name>History</name>

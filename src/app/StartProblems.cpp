@@ -6,17 +6,26 @@
 
 namespace brimo {
 
-void StartProblems::iniUnreadable(const QString& iniPath, const Failure& failure) {
+namespace {
+
+void sayOnStderr(const QString& iniPath, const Failure& failure) {
     std::fprintf(stderr, "Brimo2010: %s: %s\n", iniPath.toLocal8Bit().constData(),
                  FailureText(failure, Wording::English).toLocal8Bit().constData());
+}
+
+} // namespace
+
+void StartProblems::iniUnreadable(const QString& iniPath, const Failure& failure) {
+    sayOnStderr(iniPath, failure);
     found_.append({Kind::IniUnreadable, iniPath, failure});
 }
 
-// The lock's own failure is already on stderr (UserFolderLock), and the
-// journal's (RecoverFilesTogether).
+// A damaged journal is already on stderr (RecoverFilesTogether).
 void StartProblems::recovered(const QString& iniPath, const StartRecovery& found) {
-    if (!found.lock.ok)
+    if (!found.lock.ok) {
+        sayOnStderr(iniPath, found.lock.reason);
         found_.append({found.lock.busy ? Kind::LockKept : Kind::LockUnusable, iniPath, found.lock.reason});
+    }
     if (found.recovery == Recovery::Ignored) found_.append({Kind::JournalDamaged, iniPath, {}});
 }
 

@@ -46,8 +46,10 @@ constexpr bool rowsInKindOrder() {
 }
 static_assert(rowsInKindOrder());
 
-// A holder that did not write its name is "another program".
+// A holder that did not write its pid is "another program"; one that wrote
+// no name is its number alone.
 constexpr const char* kUnknownHolder = QT_TRANSLATE_NOOP("Failure", "another program holds the lock");
+constexpr const char* kNamelessHolder = QT_TRANSLATE_NOOP("Failure", "process %1 holds the lock");
 
 } // namespace
 
@@ -60,15 +62,23 @@ QString FailureText(const Failure& failure, Wording wording) {
     switch (failure.kind) {
     case FailureKind::TooLargeToRead: text = say(row.text).arg(kLargestReadFile); break;
     case FailureKind::LockHeld:
-        text = failure.number ? say(row.text).arg(failure.number).arg(failure.detail) : say(kUnknownHolder);
+        text = !failure.number           ? say(kUnknownHolder)
+               : failure.detail.isEmpty() ? say(kNamelessHolder).arg(failure.number)
+                                          : say(row.text).arg(failure.number).arg(failure.detail);
         break;
     case FailureKind::NotOwner: text = say(row.text).arg(failure.number); break;
     case FailureKind::FolderMissing:
     case FailureKind::LockUnusable: text = say(row.text).arg(failure.detail); break;
     default: text = say(row.text);
     }
-    if (row.systemWords && failure.systemError)
-        text += QStringLiteral(" (%1)").arg(QString::fromLocal8Bit(std::strerror(failure.systemError)));
+    // The system's reason in parentheses: our own sentence where it has a
+    // kind (no right, no room...), else the C library's words.
+    if (row.systemWords && failure.systemError) {
+        const Failure cause = FailureOfErrno(failure.systemError);
+        text += QStringLiteral(" (%1)").arg(cause.kind != FailureKind::System
+                                                ? FailureText(cause, wording)
+                                                : QString::fromLocal8Bit(std::strerror(failure.systemError)));
+    }
     return text;
 }
 

@@ -20,8 +20,7 @@ constexpr ProgramLanguageRow kProgramLanguages[] = {
     {"ITA", "it"},
 };
 
-// Ours, built in, and Qt's own (the buttons of a message box, the command
-// line's errors), from Debian's qt6-translations-l10n when it is installed.
+// Ours, built in, and Qt's own when asked for and installed.
 QTranslator& translator() {
     static QTranslator* installed = new QTranslator(QCoreApplication::instance());
     return *installed;
@@ -33,7 +32,7 @@ QTranslator& qtTranslator() {
 
 } // namespace
 
-void SetProgramLanguage(const QString& code) {
+void SetProgramLanguage(const QString& code, QtOwnWords qtWords) {
     QCoreApplication::removeTranslator(&translator());
     QCoreApplication::removeTranslator(&qtTranslator());
     for (const ProgramLanguageRow& row : kProgramLanguages) {
@@ -41,7 +40,7 @@ void SetProgramLanguage(const QString& code) {
         const QString locale = QLatin1String(row.locale);
         if (translator().load(QStringLiteral(":/i18n/brimo_%1.qm").arg(locale)))
             QCoreApplication::installTranslator(&translator());
-        if (locale != QLatin1String("en") &&
+        if (qtWords == QtOwnWords::Translated && locale != QLatin1String("en") &&
             qtTranslator().load(QStringLiteral("qtbase_") + locale, QLibraryInfo::path(QLibraryInfo::TranslationsPath)))
             QCoreApplication::installTranslator(&qtTranslator());
     }

@@ -7,9 +7,15 @@
 
 namespace brimo {
 
+// Whether Qt's own words (an unknown option of the command line) follow too,
+// from Debian's qt6-translations-l10n. The dialogs keep them as they are:
+// their boxes' buttons and the tab bar's arrows read the same in every
+// language, as the forms were drawn.
+enum class QtOwnWords { Unchanged, Translated };
+
 // Speaks the language of the code (FRA, ENG, DEU, ITA) from now on; any
 // other code speaks English.
-void SetProgramLanguage(const QString& code);
+void SetProgramLanguage(const QString& code, QtOwnWords qtWords = QtOwnWords::Unchanged);
 
 // The code of the language of the locale's messages (LC_ALL, then
 // LC_MESSAGES, then LANG, as the C library chooses), when it is one of the

@@ -97,22 +97,15 @@ CommitOutcome writeWithHistory(const QString& nativeIni, const QList<FileToWrite
 UserFolderLock::UserFolderLock(const WinePrefix& prefix, const QString& iniPath)
     : prefix_(prefix), iniPath_(iniPath), nativeIni_(ToNativePath(prefix, iniPath)),
       owner_(prefix.folder, EXIT_FAILURE) {
-    if (owner_.failure()) {
-        std::fprintf(stderr, "Brimo: %s: %s\n", prefix.name().toLocal8Bit().constData(),
-                     FailureText(owner_.failure(), Wording::English).toLocal8Bit().constData());
-        return;
-    }
+    // Whoever took the lock says why it is not had (failure()): the dialog at
+    // its start and in its report, brimo-settings in the user's language.
+    if (owner_.failure()) return;
     const QStringList folders = nativeIni_.isEmpty() ? QStringList{QString()} : foldersToLock(nativeIni_);
     for (const QString& folder : folders) {
         locks_.push_back(std::make_unique<FolderLock>(folder.isEmpty() ? QString() : lockIn(folder), kUserFolderLockWait));
         if (locks_.back()->state() != FolderLock::State::Held) break;
     }
-    if (state() != FolderLock::State::Held) {
-        if (state() != FolderLock::State::NoFolder)
-            std::fprintf(stderr, "Brimo: %s: %s\n", QFile::encodeName(nativeIni_).constData(),
-                         FailureText(failure().reason, Wording::English).toLocal8Bit().constData());
-        return;
-    }
+    if (state() != FolderLock::State::Held) return;
     recovery_ = RecoverFilesTogether(journalBeside(nativeIni_));
     // The entry that a commit cut off had staged counts once that commit
     // has been finished, and goes when it has been undone.

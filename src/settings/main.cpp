@@ -14,7 +14,7 @@ int main(int argc, char** argv) {
     QCoreApplication application(argc, argv);
     // Its own sentences in the language of the locale's messages, as Debian's
     // tools speak; keys, values, JSON keys and statuses never change with it.
-    SetProgramLanguage(LanguageOfEnvironment());
+    SetProgramLanguage(LanguageOfEnvironment(), QtOwnWords::Translated);
     // A write past the file size limit then fails with EFBIG and is reported
     // as any failed write, instead of killing the tool.
     std::signal(SIGXFSZ, SIG_IGN);
