@@ -127,6 +127,25 @@
     </message>
 </context>
 <context>
+    <name>SettingValue</name>
+    <message>
+        <source>%1: the value holds a line break or another control character</source>
+        <translation>%1: the value holds a line break or another control character</translation>
+    </message>
+    <message>
+        <source>%1: %2 is none of %3</source>
+        <translation>%1: %2 is none of %3</translation>
+    </message>
+    <message>
+        <source>%1: %2 is no number</source>
+        <translation>%1: %2 is no number</translation>
+    </message>
+    <message>
+        <source>%1: %2 holds a double quote, which would end its Lisp string</source>
+        <translation>%1: %2 holds a double quote, which would end its Lisp string</translation>
+    </message>
+</context>
+<context>
     <name>SettingsText</name>
     <message>
         <source>print each value the dialog would open with (all keys
@@ -245,22 +264,6 @@ See brimo-settings(1).
     <message>
         <source>Usage: brimo-settings %1 [OPTION...]</source>
         <translation>Usage: brimo-settings %1 [OPTION...]</translation>
-    </message>
-    <message>
-        <source>%1: the value holds a line break or another control character</source>
-        <translation>%1: the value holds a line break or another control character</translation>
-    </message>
-    <message>
-        <source>%1: %2 is none of %3</source>
-        <translation>%1: %2 is none of %3</translation>
-    </message>
-    <message>
-        <source>%1: %2 is no number</source>
-        <translation>%1: %2 is no number</translation>
-    </message>
-    <message>
-        <source>%1: %2 holds a double quote, which would end its Lisp string</source>
-        <translation>%1: %2 holds a double quote, which would end its Lisp string</translation>
     </message>
     <message>
         <source>%1: not KEY=VALUE</source>

@@ -127,6 +127,25 @@
     </message>
 </context>
 <context>
+    <name>SettingValue</name>
+    <message>
+        <source>%1: the value holds a line break or another control character</source>
+        <translation>%1: il valore contiene un a capo o un altro carattere di controllo</translation>
+    </message>
+    <message>
+        <source>%1: %2 is none of %3</source>
+        <translation>%1: %2 non è nessuno dei valori %3</translation>
+    </message>
+    <message>
+        <source>%1: %2 is no number</source>
+        <translation>%1: %2 non è un numero</translation>
+    </message>
+    <message>
+        <source>%1: %2 holds a double quote, which would end its Lisp string</source>
+        <translation>%1: %2 contiene delle virgolette doppie, che chiuderebbero la sua stringa Lisp</translation>
+    </message>
+</context>
+<context>
     <name>SettingsText</name>
     <message>
         <source>print each value the dialog would open with (all keys
@@ -248,22 +267,6 @@ Vedere brimo-settings(1).
     <message>
         <source>Usage: brimo-settings %1 [OPTION...]</source>
         <translation>Uso: brimo-settings %1 [OPTION...]</translation>
-    </message>
-    <message>
-        <source>%1: the value holds a line break or another control character</source>
-        <translation>%1: il valore contiene un a capo o un altro carattere di controllo</translation>
-    </message>
-    <message>
-        <source>%1: %2 is none of %3</source>
-        <translation>%1: %2 non è nessuno dei valori %3</translation>
-    </message>
-    <message>
-        <source>%1: %2 is no number</source>
-        <translation>%1: %2 non è un numero</translation>
-    </message>
-    <message>
-        <source>%1: %2 holds a double quote, which would end its Lisp string</source>
-        <translation>%1: %2 contiene delle virgolette doppie, che chiuderebbero la sua stringa Lisp</translation>
     </message>
     <message>
         <source>%1: not KEY=VALUE</source>

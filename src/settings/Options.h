@@ -5,7 +5,7 @@
 // The command line, read by QCommandLineParser: a command, its arguments and
 // the options, in any order behind the command; "--" ends the options.
 
-#include "settings/SettingKeys.h"
+#include "model/SettingKeys.h"
 
 #include <QStringList>
 
