@@ -127,6 +127,29 @@
     </message>
 </context>
 <context>
+    <name>OfficeStandard</name>
+    <message>
+        <source>The office standard (%1) fixes this value.</source>
+        <translation>Der Bürostandard (%1) legt diesen Wert fest.</translation>
+    </message>
+    <message>
+        <source>%1 is no key of Brimo&apos;s settings</source>
+        <translation>%1 ist kein Schlüssel der Einstellungen von Brimo</translation>
+    </message>
+    <message>
+        <source>%1=%2: a locked key takes 1, an unlocked one 0</source>
+        <translation>%1=%2: ein gesperrter Schlüssel nimmt 1, ein freier 0</translation>
+    </message>
+    <message>
+        <source>%1, line %2</source>
+        <translation>%1, Zeile %2</translation>
+    </message>
+    <message>
+        <source>%1: %2; the office standard is ignored</source>
+        <translation>%1: %2; der Bürostandard wird ignoriert</translation>
+    </message>
+</context>
+<context>
     <name>SettingValue</name>
     <message>
         <source>%1: the value holds a line break or another control character</source>
@@ -175,15 +198,6 @@ Profildatei; FILE „-“ ist die Standardausgabe</translation>
 profile file; FILE &quot;-&quot; is the standard input</source>
         <translation>setzt die Schlüssel von [Brimo_Gene] und [Brimo_Talus]
 einer Profildatei; FILE „-“ ist die Standardeingabe</translation>
-    </message>
-    <message>
-        <source>list the last 20 commits of the user&apos;s files (by the
-dialogs&apos; OK, set, apply, restore): number, time,
-program, what, keys changed</source>
-        <translation>listet die letzten 20 Speichervorgänge der Dateien des
-Benutzers auf (durch das OK der Dialoge, set, apply,
-restore): Nummer, Zeit, Programm, Vorgang, geänderte
-Schlüssel</translation>
     </message>
     <message>
         <source>bring back both files as they were before the last
@@ -294,27 +308,6 @@ Siehe brimo-settings(1).
         <source>the dialog whose keys get and set use (general)</source>
         <translation>der Dialog, dessen Schlüssel get und set
 verwenden (general)</translation>
-    </message>
-    <message>
-        <source>get, set, apply, restore, history: print one JSON
-document (set, apply, restore: per prefix the
-user, changed, keys with old and new values,
-files, error)</source>
-        <translation>get, set, apply, restore, history: gibt ein
-JSON-Dokument aus (set, apply, restore: je Präfix
-Benutzer, changed, Schlüssel mit altem und neuem
-Wert, Dateien, error)</translation>
-    </message>
-    <message>
-        <source>get: put &quot;stored&quot; or &quot;default&quot; and a tab in front</source>
-        <translation>get: „stored“ oder „default“ und einen Tabulator
-voranstellen</translation>
-    </message>
-    <message>
-        <source>set, apply, restore: report what would change,
-write nothing</source>
-        <translation>set, apply, restore: meldet, was sich ändern
-würde, schreibt nichts</translation>
     </message>
     <message>
         <source>exit statuses as Puppet&apos;s option of that name</source>
@@ -428,6 +421,58 @@ auflistet</translation>
         <source>%1: no entry number</source>
         <translation>%1: keine Eintragsnummer</translation>
     </message>
+    <message>
+        <source>list the last 20 commits of the user&apos;s files (by the
+dialogs&apos; OK, set, apply, restore, heal): number,
+time, program, what, keys changed</source>
+        <translation>listet die letzten 20 Speichervorgänge der Dateien des
+Benutzers auf (durch das OK der Dialoge, set, apply,
+restore, heal): Nummer, Zeit, Programm, Vorgang,
+geänderte Schlüssel</translation>
+    </message>
+    <message>
+        <source>set every key that the office standard gives or locks
+to its value; with --check, report which users differ
+from it, and in which keys</source>
+        <translation>setzt jeden Schlüssel, den der Bürostandard vorgibt
+oder sperrt, auf dessen Wert; mit --check meldet er,
+welche Benutzer davon abweichen und in welchen
+Schlüsseln</translation>
+    </message>
+    <message>
+        <source>get, set, apply, restore, heal, history: print one
+JSON document (set, apply, restore, heal: per prefix
+the user, changed, keys with old and new values,
+files, error)</source>
+        <translation>get, set, apply, restore, heal, history: gibt ein
+JSON-Dokument aus (set, apply, restore, heal: je
+Präfix Benutzer, changed, Schlüssel mit altem und
+neuem Wert, Dateien, error)</translation>
+    </message>
+    <message>
+        <source>get: put &quot;stored&quot;, &quot;office&quot;, &quot;locked&quot; or &quot;default&quot;
+and a tab in front</source>
+        <translation>get: „stored“, „office“, „locked“ oder „default“
+und einen Tabulator voranstellen</translation>
+    </message>
+    <message>
+        <source>set, apply, restore, heal: report what would
+change, write nothing</source>
+        <translation>set, apply, restore, heal: meldet, was sich
+ändern würde, schreibt nichts</translation>
+    </message>
+    <message>
+        <source>%1: the office standard %2 locks it at &quot;%3&quot;</source>
+        <translation>%1: der Bürostandard %2 sperrt ihn auf „%3“</translation>
+    </message>
+    <message>
+        <source>heal takes no argument</source>
+        <translation>heal nimmt kein Argument</translation>
+    </message>
+    <message>
+        <source>%1: no office standard to heal to</source>
+        <translation>%1: kein Bürostandard, an den angeglichen werden kann</translation>
+    </message>
 </context>
 <context>
     <name>StartProblems</name>
@@ -446,6 +491,10 @@ auflistet</translation>
     <message>
         <source>A save into the folder of %1 was cut off, and its journal was damaged: the journal was removed and the files were left as they stand. Check the values before you press OK.</source>
         <translation>Ein Speichervorgang im Ordner von %1 wurde abgebrochen, und sein Journal war beschädigt: Das Journal wurde entfernt, die Dateien blieben, wie sie sind. Prüfen Sie die Werte, bevor Sie auf OK drücken.</translation>
+    </message>
+    <message>
+        <source>%1 The dialog shows your own values and the program&apos;s defaults.</source>
+        <translation>%1 Der Dialog zeigt Ihre eigenen Werte und die Vorgaben des Programms.</translation>
     </message>
 </context>
 </TS>

@@ -127,6 +127,29 @@
     </message>
 </context>
 <context>
+    <name>OfficeStandard</name>
+    <message>
+        <source>The office standard (%1) fixes this value.</source>
+        <translation>The office standard (%1) fixes this value.</translation>
+    </message>
+    <message>
+        <source>%1 is no key of Brimo&apos;s settings</source>
+        <translation>%1 is no key of Brimo&apos;s settings</translation>
+    </message>
+    <message>
+        <source>%1=%2: a locked key takes 1, an unlocked one 0</source>
+        <translation>%1=%2: a locked key takes 1, an unlocked one 0</translation>
+    </message>
+    <message>
+        <source>%1, line %2</source>
+        <translation>%1, line %2</translation>
+    </message>
+    <message>
+        <source>%1: %2; the office standard is ignored</source>
+        <translation>%1: %2; the office standard is ignored</translation>
+    </message>
+</context>
+<context>
     <name>SettingValue</name>
     <message>
         <source>%1: the value holds a line break or another control character</source>
@@ -174,14 +197,6 @@ standard output</translation>
 profile file; FILE &quot;-&quot; is the standard input</source>
         <translation>set the keys of [Brimo_Gene] and [Brimo_Talus] of a
 profile file; FILE &quot;-&quot; is the standard input</translation>
-    </message>
-    <message>
-        <source>list the last 20 commits of the user&apos;s files (by the
-dialogs&apos; OK, set, apply, restore): number, time,
-program, what, keys changed</source>
-        <translation>list the last 20 commits of the user&apos;s files (by the
-dialogs&apos; OK, set, apply, restore): number, time,
-program, what, keys changed</translation>
     </message>
     <message>
         <source>bring back both files as they were before the last
@@ -288,26 +303,6 @@ See brimo-settings(1).
     <message>
         <source>the dialog whose keys get and set use (general)</source>
         <translation>the dialog whose keys get and set use (general)</translation>
-    </message>
-    <message>
-        <source>get, set, apply, restore, history: print one JSON
-document (set, apply, restore: per prefix the
-user, changed, keys with old and new values,
-files, error)</source>
-        <translation>get, set, apply, restore, history: print one JSON
-document (set, apply, restore: per prefix the
-user, changed, keys with old and new values,
-files, error)</translation>
-    </message>
-    <message>
-        <source>get: put &quot;stored&quot; or &quot;default&quot; and a tab in front</source>
-        <translation>get: put &quot;stored&quot; or &quot;default&quot; and a tab in front</translation>
-    </message>
-    <message>
-        <source>set, apply, restore: report what would change,
-write nothing</source>
-        <translation>set, apply, restore: report what would change,
-write nothing</translation>
     </message>
     <message>
         <source>exit statuses as Puppet&apos;s option of that name</source>
@@ -417,6 +412,56 @@ write nothing</translation>
         <source>%1: no entry number</source>
         <translation>%1: no entry number</translation>
     </message>
+    <message>
+        <source>list the last 20 commits of the user&apos;s files (by the
+dialogs&apos; OK, set, apply, restore, heal): number,
+time, program, what, keys changed</source>
+        <translation>list the last 20 commits of the user&apos;s files (by the
+dialogs&apos; OK, set, apply, restore, heal): number,
+time, program, what, keys changed</translation>
+    </message>
+    <message>
+        <source>set every key that the office standard gives or locks
+to its value; with --check, report which users differ
+from it, and in which keys</source>
+        <translation>set every key that the office standard gives or locks
+to its value; with --check, report which users differ
+from it, and in which keys</translation>
+    </message>
+    <message>
+        <source>get, set, apply, restore, heal, history: print one
+JSON document (set, apply, restore, heal: per prefix
+the user, changed, keys with old and new values,
+files, error)</source>
+        <translation>get, set, apply, restore, heal, history: print one
+JSON document (set, apply, restore, heal: per prefix
+the user, changed, keys with old and new values,
+files, error)</translation>
+    </message>
+    <message>
+        <source>get: put &quot;stored&quot;, &quot;office&quot;, &quot;locked&quot; or &quot;default&quot;
+and a tab in front</source>
+        <translation>get: put &quot;stored&quot;, &quot;office&quot;, &quot;locked&quot; or &quot;default&quot;
+and a tab in front</translation>
+    </message>
+    <message>
+        <source>set, apply, restore, heal: report what would
+change, write nothing</source>
+        <translation>set, apply, restore, heal: report what would
+change, write nothing</translation>
+    </message>
+    <message>
+        <source>%1: the office standard %2 locks it at &quot;%3&quot;</source>
+        <translation>%1: the office standard %2 locks it at &quot;%3&quot;</translation>
+    </message>
+    <message>
+        <source>heal takes no argument</source>
+        <translation>heal takes no argument</translation>
+    </message>
+    <message>
+        <source>%1: no office standard to heal to</source>
+        <translation>%1: no office standard to heal to</translation>
+    </message>
 </context>
 <context>
     <name>StartProblems</name>
@@ -435,6 +480,10 @@ write nothing</translation>
     <message>
         <source>A save into the folder of %1 was cut off, and its journal was damaged: the journal was removed and the files were left as they stand. Check the values before you press OK.</source>
         <translation>A save into the folder of %1 was cut off, and its journal was damaged: the journal was removed and the files were left as they stand. Check the values before you press OK.</translation>
+    </message>
+    <message>
+        <source>%1 The dialog shows your own values and the program&apos;s defaults.</source>
+        <translation>%1 The dialog shows your own values and the program&apos;s defaults.</translation>
     </message>
 </context>
 </TS>

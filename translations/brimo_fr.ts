@@ -127,6 +127,29 @@
     </message>
 </context>
 <context>
+    <name>OfficeStandard</name>
+    <message>
+        <source>The office standard (%1) fixes this value.</source>
+        <translation>Le standard du bureau (%1) fixe cette valeur.</translation>
+    </message>
+    <message>
+        <source>%1 is no key of Brimo&apos;s settings</source>
+        <translation>%1 n&apos;est pas une clé des réglages de Brimo</translation>
+    </message>
+    <message>
+        <source>%1=%2: a locked key takes 1, an unlocked one 0</source>
+        <translation>%1=%2 : une clé verrouillée prend 1, une clé libre 0</translation>
+    </message>
+    <message>
+        <source>%1, line %2</source>
+        <translation>%1, ligne %2</translation>
+    </message>
+    <message>
+        <source>%1: %2; the office standard is ignored</source>
+        <translation>%1 : %2 ; le standard du bureau est ignoré</translation>
+    </message>
+</context>
+<context>
     <name>SettingValue</name>
     <message>
         <source>%1: the value holds a line break or another control character</source>
@@ -176,15 +199,6 @@ deux sections) ; FILE « - » est la sortie standard</translation>
 profile file; FILE &quot;-&quot; is the standard input</source>
         <translation>règle les clés de [Brimo_Gene] et [Brimo_Talus] d&apos;un
 fichier de profil ; FILE « - » est l&apos;entrée standard</translation>
-    </message>
-    <message>
-        <source>list the last 20 commits of the user&apos;s files (by the
-dialogs&apos; OK, set, apply, restore): number, time,
-program, what, keys changed</source>
-        <translation>liste les 20 derniers enregistrements des fichiers de
-l&apos;utilisateur (par l&apos;OK des boîtes de dialogue, set,
-apply, restore) : numéro, heure, programme, action,
-clés modifiées</translation>
     </message>
     <message>
         <source>bring back both files as they were before the last
@@ -294,27 +308,6 @@ Voir brimo-settings(1).
         <source>the dialog whose keys get and set use (general)</source>
         <translation>la boîte de dialogue dont get et set
 utilisent les clés (general)</translation>
-    </message>
-    <message>
-        <source>get, set, apply, restore, history: print one JSON
-document (set, apply, restore: per prefix the
-user, changed, keys with old and new values,
-files, error)</source>
-        <translation>get, set, apply, restore, history : affiche un seul
-document JSON (set, apply, restore : par préfixe
-l&apos;utilisateur, changed, les clés avec anciennes et
-nouvelles valeurs, les fichiers, error)</translation>
-    </message>
-    <message>
-        <source>get: put &quot;stored&quot; or &quot;default&quot; and a tab in front</source>
-        <translation>get : met « stored » ou « default » et une
-tabulation devant</translation>
-    </message>
-    <message>
-        <source>set, apply, restore: report what would change,
-write nothing</source>
-        <translation>set, apply, restore : indique ce qui changerait,
-n&apos;écrit rien</translation>
     </message>
     <message>
         <source>exit statuses as Puppet&apos;s option of that name</source>
@@ -429,6 +422,57 @@ les liste</translation>
         <source>%1: no entry number</source>
         <translation>%1 : pas un numéro d&apos;entrée</translation>
     </message>
+    <message>
+        <source>list the last 20 commits of the user&apos;s files (by the
+dialogs&apos; OK, set, apply, restore, heal): number,
+time, program, what, keys changed</source>
+        <translation>liste les 20 derniers enregistrements des fichiers de
+l&apos;utilisateur (par l&apos;OK des boîtes de dialogue, set,
+apply, restore, heal) : numéro, heure, programme,
+action, clés modifiées</translation>
+    </message>
+    <message>
+        <source>set every key that the office standard gives or locks
+to its value; with --check, report which users differ
+from it, and in which keys</source>
+        <translation>donne à chaque clé que le standard du bureau fixe ou
+verrouille sa valeur ; avec --check, indique quels
+utilisateurs s&apos;en écartent, et sur quelles clés</translation>
+    </message>
+    <message>
+        <source>get, set, apply, restore, heal, history: print one
+JSON document (set, apply, restore, heal: per prefix
+the user, changed, keys with old and new values,
+files, error)</source>
+        <translation>get, set, apply, restore, heal, history : affiche un
+seul document JSON (set, apply, restore, heal : par
+préfixe l&apos;utilisateur, changed, les clés avec
+anciennes et nouvelles valeurs, les fichiers, error)</translation>
+    </message>
+    <message>
+        <source>get: put &quot;stored&quot;, &quot;office&quot;, &quot;locked&quot; or &quot;default&quot;
+and a tab in front</source>
+        <translation>get : met « stored », « office », « locked » ou
+« default » et une tabulation devant</translation>
+    </message>
+    <message>
+        <source>set, apply, restore, heal: report what would
+change, write nothing</source>
+        <translation>set, apply, restore, heal : indique ce qui
+changerait, n&apos;écrit rien</translation>
+    </message>
+    <message>
+        <source>%1: the office standard %2 locks it at &quot;%3&quot;</source>
+        <translation>%1 : le standard du bureau %2 la verrouille à « %3 »</translation>
+    </message>
+    <message>
+        <source>heal takes no argument</source>
+        <translation>heal ne prend aucun argument</translation>
+    </message>
+    <message>
+        <source>%1: no office standard to heal to</source>
+        <translation>%1 : aucun standard du bureau auquel se conformer</translation>
+    </message>
 </context>
 <context>
     <name>StartProblems</name>
@@ -447,6 +491,10 @@ les liste</translation>
     <message>
         <source>A save into the folder of %1 was cut off, and its journal was damaged: the journal was removed and the files were left as they stand. Check the values before you press OK.</source>
         <translation>Un enregistrement dans le dossier de %1 a été interrompu et son journal était endommagé : le journal a été supprimé et les fichiers laissés tels quels. Vérifiez les valeurs avant de valider.</translation>
+    </message>
+    <message>
+        <source>%1 The dialog shows your own values and the program&apos;s defaults.</source>
+        <translation>%1 La boîte de dialogue affiche vos propres valeurs et celles par défaut du programme.</translation>
     </message>
 </context>
 </TS>

@@ -127,6 +127,29 @@
     </message>
 </context>
 <context>
+    <name>OfficeStandard</name>
+    <message>
+        <source>The office standard (%1) fixes this value.</source>
+        <translation>Lo standard dell&apos;ufficio (%1) fissa questo valore.</translation>
+    </message>
+    <message>
+        <source>%1 is no key of Brimo&apos;s settings</source>
+        <translation>%1 non è una chiave delle impostazioni di Brimo</translation>
+    </message>
+    <message>
+        <source>%1=%2: a locked key takes 1, an unlocked one 0</source>
+        <translation>%1=%2: una chiave bloccata prende 1, una libera 0</translation>
+    </message>
+    <message>
+        <source>%1, line %2</source>
+        <translation>%1, riga %2</translation>
+    </message>
+    <message>
+        <source>%1: %2; the office standard is ignored</source>
+        <translation>%1: %2; lo standard dell&apos;ufficio viene ignorato</translation>
+    </message>
+</context>
+<context>
     <name>SettingValue</name>
     <message>
         <source>%1: the value holds a line break or another control character</source>
@@ -175,14 +198,6 @@ sezioni); FILE &quot;-&quot; è lo standard output</translation>
 profile file; FILE &quot;-&quot; is the standard input</source>
         <translation>imposta le chiavi di [Brimo_Gene] e [Brimo_Talus] di un
 file di profilo; FILE &quot;-&quot; è lo standard input</translation>
-    </message>
-    <message>
-        <source>list the last 20 commits of the user&apos;s files (by the
-dialogs&apos; OK, set, apply, restore): number, time,
-program, what, keys changed</source>
-        <translation>elenca gli ultimi 20 salvataggi dei file dell&apos;utente
-(dall&apos;OK delle finestre, set, apply, restore): numero,
-ora, programma, azione, chiavi cambiate</translation>
     </message>
     <message>
         <source>bring back both files as they were before the last
@@ -292,27 +307,6 @@ Vedere brimo-settings(1).
         <source>the dialog whose keys get and set use (general)</source>
         <translation>la finestra le cui chiavi usano get e set
 (general)</translation>
-    </message>
-    <message>
-        <source>get, set, apply, restore, history: print one JSON
-document (set, apply, restore: per prefix the
-user, changed, keys with old and new values,
-files, error)</source>
-        <translation>get, set, apply, restore, history: stampa un unico
-documento JSON (set, apply, restore: per prefisso
-l&apos;utente, changed, le chiavi con valori vecchi e
-nuovi, i file, error)</translation>
-    </message>
-    <message>
-        <source>get: put &quot;stored&quot; or &quot;default&quot; and a tab in front</source>
-        <translation>get: mette davanti &quot;stored&quot; o &quot;default&quot; e una
-tabulazione</translation>
-    </message>
-    <message>
-        <source>set, apply, restore: report what would change,
-write nothing</source>
-        <translation>set, apply, restore: riporta cosa cambierebbe,
-non scrive nulla</translation>
     </message>
     <message>
         <source>exit statuses as Puppet&apos;s option of that name</source>
@@ -427,6 +421,56 @@ elenca Qt</translation>
         <source>%1: no entry number</source>
         <translation>%1: non è un numero di voce</translation>
     </message>
+    <message>
+        <source>list the last 20 commits of the user&apos;s files (by the
+dialogs&apos; OK, set, apply, restore, heal): number,
+time, program, what, keys changed</source>
+        <translation>elenca gli ultimi 20 salvataggi dei file dell&apos;utente
+(dall&apos;OK delle finestre, set, apply, restore, heal):
+numero, ora, programma, azione, chiavi cambiate</translation>
+    </message>
+    <message>
+        <source>set every key that the office standard gives or locks
+to its value; with --check, report which users differ
+from it, and in which keys</source>
+        <translation>imposta ogni chiave che lo standard dell&apos;ufficio
+fissa o blocca al suo valore; con --check riporta
+quali utenti se ne discostano, e in quali chiavi</translation>
+    </message>
+    <message>
+        <source>get, set, apply, restore, heal, history: print one
+JSON document (set, apply, restore, heal: per prefix
+the user, changed, keys with old and new values,
+files, error)</source>
+        <translation>get, set, apply, restore, heal, history: stampa un
+unico documento JSON (set, apply, restore, heal: per
+prefisso l&apos;utente, changed, le chiavi con valori
+vecchi e nuovi, i file, error)</translation>
+    </message>
+    <message>
+        <source>get: put &quot;stored&quot;, &quot;office&quot;, &quot;locked&quot; or &quot;default&quot;
+and a tab in front</source>
+        <translation>get: mette davanti &quot;stored&quot;, &quot;office&quot;, &quot;locked&quot; o
+&quot;default&quot; e una tabulazione</translation>
+    </message>
+    <message>
+        <source>set, apply, restore, heal: report what would
+change, write nothing</source>
+        <translation>set, apply, restore, heal: riporta cosa
+cambierebbe, non scrive nulla</translation>
+    </message>
+    <message>
+        <source>%1: the office standard %2 locks it at &quot;%3&quot;</source>
+        <translation>%1: lo standard dell&apos;ufficio %2 la blocca a «%3»</translation>
+    </message>
+    <message>
+        <source>heal takes no argument</source>
+        <translation>heal non accetta argomenti</translation>
+    </message>
+    <message>
+        <source>%1: no office standard to heal to</source>
+        <translation>%1: nessuno standard dell&apos;ufficio a cui conformarsi</translation>
+    </message>
 </context>
 <context>
     <name>StartProblems</name>
@@ -445,6 +489,10 @@ elenca Qt</translation>
     <message>
         <source>A save into the folder of %1 was cut off, and its journal was damaged: the journal was removed and the files were left as they stand. Check the values before you press OK.</source>
         <translation>Un salvataggio nella cartella di %1 è stato interrotto e il suo registro era danneggiato: il registro è stato rimosso e i file lasciati come sono. Controllate i valori prima di premere OK.</translation>
+    </message>
+    <message>
+        <source>%1 The dialog shows your own values and the program&apos;s defaults.</source>
+        <translation>%1 La finestra mostra i vostri valori e quelli predefiniti del programma.</translation>
     </message>
 </context>
 </TS>

@@ -132,6 +132,11 @@ int Main(int argc, char* argv[]) {
         std::fprintf(stderr, "Brimo2010: %s: %s\n", ZorelIniPath().toLocal8Bit().constData(),
                      FailureText(zorelIni, Wording::English).toLocal8Bit().constData());
     StartProblems problems;
+    // Before anything is read from the user's files: the office's values and
+    // locks stand in them. Said before the language is set, so in English.
+    const LoadedStandard standard = LoadOfficeStandard();
+    module.installInfo.standard = standard.standard;
+    if (standard.problem) problems.standardIgnored(standard.file, *standard.problem);
     // A commit cut off by a kill is finished or undone before Brimo.ini is read.
     problems.recovered(BrimoIniPath(module.installInfo), RecoverInterruptedCommit(module.installInfo));
     Failure brimoIni;

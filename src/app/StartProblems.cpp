@@ -17,16 +17,21 @@ void sayOnStderr(const QString& iniPath, const Failure& failure) {
 
 void StartProblems::iniUnreadable(const QString& iniPath, const Failure& failure) {
     sayOnStderr(iniPath, failure);
-    found_.append({Kind::IniUnreadable, iniPath, failure});
+    found_.append({Kind::IniUnreadable, iniPath, failure, std::nullopt});
+}
+
+void StartProblems::standardIgnored(const QString& file, const StandardProblem& problem) {
+    std::fprintf(stderr, "Brimo2010: %s\n", StandardProblemText(file, problem).toLocal8Bit().constData());
+    found_.append({Kind::StandardIgnored, file, {}, problem});
 }
 
 // A damaged journal is already on stderr (RecoverFilesTogether).
 void StartProblems::recovered(const QString& iniPath, const StartRecovery& found) {
     if (!found.lock.ok) {
         sayOnStderr(iniPath, found.lock.reason);
-        found_.append({found.lock.busy ? Kind::LockKept : Kind::LockUnusable, iniPath, found.lock.reason});
+        found_.append({found.lock.busy ? Kind::LockKept : Kind::LockUnusable, iniPath, found.lock.reason, std::nullopt});
     }
-    if (found.recovery == Recovery::Ignored) found_.append({Kind::JournalDamaged, iniPath, {}});
+    if (found.recovery == Recovery::Ignored) found_.append({Kind::JournalDamaged, iniPath, {}, std::nullopt});
 }
 
 QString StartProblems::text() const {
@@ -45,6 +50,10 @@ QString StartProblems::text() const {
         case Kind::LockUnusable:
             paragraphs.append(tr("The lock of the file %1 cannot be had: %2. OK will fail: nothing can be saved.")
                                   .arg(found.file, FailureText(found.failure)));
+            break;
+        case Kind::StandardIgnored:
+            paragraphs.append(tr("%1 The dialog shows your own values and the program's defaults.")
+                                  .arg(StandardProblemText(found.file, *found.standard)));
             break;
         case Kind::JournalDamaged:
             paragraphs.append(tr("A save into the folder of %1 was cut off, and its journal was damaged: the journal "

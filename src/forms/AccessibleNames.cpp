@@ -196,4 +196,10 @@ QString AccessibleNameOf(QWidget* control) {
     return face ? face->text(QAccessible::Name) : QString();
 }
 
+void ShowAsFixed(QWidget* control, const QString& why) {
+    control->setEnabled(false);
+    control->setToolTip(why);
+    control->setAccessibleDescription(why);
+}
+
 } // namespace brimo

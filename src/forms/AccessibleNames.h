@@ -32,4 +32,9 @@ void NameControls(QWidget* window);
 // The name a control gives screen readers (Qt's accessible interface).
 QString AccessibleNameOf(QWidget* control);
 
+// A control whose value another than the user fixes (the office standard):
+// greyed, and saying why to the mouse (a tooltip) and to screen readers (its
+// description).
+void ShowAsFixed(QWidget* control, const QString& why);
+
 } // namespace brimo

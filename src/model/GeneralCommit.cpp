@@ -2,6 +2,7 @@
 
 #include "model/GeneLispCatalogue.h"
 #include "model/GeneralLoad.h"
+#include "model/OfficeStandard.h"
 
 namespace brimo {
 
@@ -96,8 +97,11 @@ GeneralEdit MergeStoredChanges(const GeneralEdit& edit, const GeneralVariables& 
 
 PlannedGeneralCommit PlanGeneralCommit(CommitPlan& plan, const InstallInfo& info, const GeneralEdit& edit) {
     GeneralVariables storedNow;
-    LoadGeneralVariables(plan.ini(), storedNow);
-    const GeneralEdit merged = MergeStoredChanges(edit, storedNow);
+    LoadGeneralVariables(plan.ini(), storedNow, info.standard.get());
+    GeneralEdit merged = MergeStoredChanges(edit, storedNow);
+    // The keys that the office standard locks take its values, whatever the
+    // controls or the file held.
+    if (info.standard) ApplyEdits(merged.edited, info.standard->edits(SettingSection::General));
     if (std::optional<UnwritableField> field = FindUnwritableQuote(merged.edited)) return {{}, field, merged};
     const QList<CommittedRow> rows = ComposeGeneralCommit(merged.edited);
     plan.add(GeneLispPath(info), QLatin1String(kGeneralSection), rows);

@@ -1,5 +1,6 @@
 #include "model/GeneralVariables.h"
 
+#include "model/OfficeStandard.h"
 #include "platform/ProfileFile.h"
 #include "platform/RegionalNumbers.h"
 
@@ -42,15 +43,17 @@ void GeneralVariables::setText(QAnyStringView key, const QString& text) { values
 void GeneralVariables::setValue(QAnyStringView key, VariableValue value) { values_[indexOf(key)] = std::move(value); }
 
 void LoadGeneralVariables(const InstallInfo& info, GeneralVariables& variables, Failure* failure) {
-    LoadGeneralVariables(LoadProfile(info.prefix, BrimoIniPath(info), failure), variables);
+    LoadGeneralVariables(LoadProfile(info.prefix, BrimoIniPath(info), failure), variables, info.standard.get());
 }
 
-void LoadGeneralVariables(const ProfileDocument& ini, GeneralVariables& variables) {
+void LoadGeneralVariables(const ProfileDocument& ini, GeneralVariables& variables, const OfficeStandard* standard) {
     for (const GeneralVariableRow& entry : kGeneralVariableCatalogue) {
         const QString key = QLatin1String(entry.key);
-        const QString read = ReadProfileString(ini, QLatin1String(kGeneralSection), key);
-        if (read.isEmpty()) variables.setValue(key, DefaultValue(entry));
-        else variables.setText(key, read);
+        const OfficeKey* office = standard ? standard->find(SettingSection::General, key) : nullptr;
+        const QString read = office && office->locked ? QString() : ReadProfileString(ini, QLatin1String(kGeneralSection), key);
+        if (!read.isEmpty()) variables.setText(key, read);
+        else if (office) variables.setText(key, office->value);
+        else variables.setValue(key, DefaultValue(entry));
     }
 }
 

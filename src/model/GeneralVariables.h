@@ -45,10 +45,12 @@ private:
 VariableValue DefaultValue(const GeneralVariableRow& entry);
 
 // Reads the 51 keys of section Brimo_Gene from BrimoIniPath(info), in the
-// catalogue's order; a missing or empty value takes its default. A Brimo.ini
-// that is there but cannot be read gives every default and sets `failure`.
+// catalogue's order; a missing or empty value takes the office's value, else
+// its default, and a key that the office standard locks takes the
+// standard's. A Brimo.ini that is there but cannot be read reads as a
+// missing one and sets `failure`.
 void LoadGeneralVariables(const InstallInfo& info, GeneralVariables& variables, Failure* failure = nullptr);
 // The same from a Brimo.ini already read.
-void LoadGeneralVariables(const ProfileDocument& ini, GeneralVariables& variables);
+void LoadGeneralVariables(const ProfileDocument& ini, GeneralVariables& variables, const OfficeStandard* standard = nullptr);
 
 } // namespace brimo

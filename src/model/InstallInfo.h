@@ -3,7 +3,8 @@
 // Lisp files, without a window; it sees the platform alone.
 //
 // Where the add-on lies, where its variable files lie, who the user is, and
-// which versions are installed: six texts read once from zorel.ini.
+// which versions are installed: six texts read once from zorel.ini; and the
+// office standard in force, read by whoever starts.
 
 #include "platform/Failure.h"
 #include "platform/WindowsPaths.h"
@@ -11,8 +12,11 @@
 #include <QString>
 
 #include <array>
+#include <memory>
 
 namespace brimo {
+
+struct OfficeStandard;
 
 struct InstallInfo {
     WinePrefix prefix;        // where the Windows drives of these paths lie
@@ -22,6 +26,7 @@ struct InstallInfo {
     QString No_version_Zorel; // [VZorel]: displayed only
     QString No_version_acad;  // [VZorel]: displayed only
     QString No_serie_acad;    // [VZorel]: displayed only
+    std::shared_ptr<const OfficeStandard> standard; // none: the program's defaults alone
 };
 
 // Reads the six values, in their order, from GetWindowsFolder() + "\zorel.ini"

@@ -1,6 +1,7 @@
 #include "model/SlopeCommit.h"
 
 #include "model/LispFile.h"
+#include "model/OfficeStandard.h"
 
 namespace brimo {
 
@@ -101,6 +102,21 @@ void SetSlopeValue(SlopeControlState& state, QAnyStringView key, const QString& 
     }
 }
 
+QStringList SlopeKeyControls(QAnyStringView key) {
+    QStringList controls;
+    for (const SlopeRow& row : kSlopeRows) {
+        if (!ofKey(row, key)) continue;
+        switch (row.condition) {
+        case Check1Ticked: controls.append(QStringLiteral("Check1")); break;
+        case Check2Ticked: controls.append(QStringLiteral("Check2")); break;
+        case Option1Chosen: controls.append(QStringLiteral("Option1")); break;
+        case Option2Chosen: controls.append(QStringLiteral("Option2")); break;
+        case Always: controls.append(QStringLiteral("Text%1").arg(row.textIndex + 1)); break;
+        }
+    }
+    return controls;
+}
+
 QList<CommittedRow> SlopeCommitRows(const SlopeControlState& state) {
     QList<CommittedRow> rows;
     for (const SlopeRow& row : kSlopeRows) {
@@ -114,7 +130,10 @@ QList<CommittedRow> SlopeCommitRows(const SlopeControlState& state) {
 }
 
 QList<CommittedRow> PlanSlopeCommit(CommitPlan& plan, const InstallInfo& info, const SlopeControlState& state) {
-    const QList<CommittedRow> rows = SlopeCommitRows(state);
+    // The keys that the office standard locks take its values.
+    SlopeControlState held = state;
+    if (info.standard) ApplyEdits(held, info.standard->edits(SettingSection::Slope));
+    const QList<CommittedRow> rows = SlopeCommitRows(held);
     plan.add(TalusLispPath(info), QLatin1String(kSlopeSection), rows);
     return rows;
 }

@@ -44,6 +44,10 @@ QString SlopeValue(const SlopeControlState& state, QAnyStringView key);
 // takes the text.
 void SetSlopeValue(SlopeControlState& state, QAnyStringView key, const QString& value);
 
+// The controls that set a key: the pair of check boxes or of option buttons
+// of its rows, or its field.
+QStringList SlopeKeyControls(QAnyStringView key);
+
 // Adds the rows to `plan`: Brimo_Talus.lsp and section Brimo_Talus.
 QList<CommittedRow> PlanSlopeCommit(CommitPlan& plan, const InstallInfo& info, const SlopeControlState& state);
 

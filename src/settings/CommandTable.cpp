@@ -4,7 +4,7 @@
 
 namespace brimo {
 
-const std::array<CommandRow, 8> kCommandTable = {{
+const std::array<CommandRow, 9> kCommandTable = {{
     {"get", "[KEY...]",
      QT_TRANSLATE_NOOP("SettingsText", "print each value the dialog would open with (all keys\nwhen none is given), as KEY=VALUE lines"),
      "--dialog --json --origin --prefix --prefixes-from --user", RunGet},
@@ -20,13 +20,17 @@ const std::array<CommandRow, 8> kCommandTable = {{
      QT_TRANSLATE_NOOP("SettingsText", "set the keys of [Brimo_Gene] and [Brimo_Talus] of a\nprofile file; FILE \"-\" is the standard input"),
      "--json --check --detailed-exitcodes --prefix --prefixes-from --user", RunApply},
     {"history", "",
-     QT_TRANSLATE_NOOP("SettingsText", "list the last 20 commits of the user's files (by the\ndialogs' OK, set, apply, restore): number, time,\n"
-     "program, what, keys changed"),
+     QT_TRANSLATE_NOOP("SettingsText", "list the last 20 commits of the user's files (by the\ndialogs' OK, set, apply, restore, heal): number,\n"
+     "time, program, what, keys changed"),
      "--json --prefix --prefixes-from --user", RunHistory},
     {"restore", "[N]",
      QT_TRANSLATE_NOOP("SettingsText", "bring back both files as they were before the last\ncommit, or before commit N of the history; recorded\n"
      "in the history in turn"),
      "--json --check --detailed-exitcodes --prefix --prefixes-from --user", RunRestore},
+    {"heal", "",
+     QT_TRANSLATE_NOOP("SettingsText", "set every key that the office standard gives or locks\nto its value; with --check, report which users differ\n"
+     "from it, and in which keys"),
+     "--json --check --detailed-exitcodes --prefix --prefixes-from --user", RunHeal},
     {"help", "[COMMAND]", QT_TRANSLATE_NOOP("SettingsText", "this text, or the usage of one command"), "--help-all", RunHelp},
     {"version", "", QT_TRANSLATE_NOOP("SettingsText", "the version"), "", RunVersion},
 }};

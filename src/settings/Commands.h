@@ -47,6 +47,7 @@ RunResult RunSet(const Options& options);
 RunResult RunApply(const Options& options);
 RunResult RunHistory(const Options& options);
 RunResult RunRestore(const Options& options);
+RunResult RunHeal(const Options& options);
 
 // Runs `each` with every prefix of the options in force in turn (or once, on
 // the environment's), after testing that the prefix is a folder; `each` gets

@@ -27,10 +27,10 @@ bool readPrefixList(const QString& file, QStringList& prefixes, QString* error) 
 
 constexpr OptionRow kOptions[] = {
     {"dialog", "", "general|slope", QT_TRANSLATE_NOOP("SettingsText", "the dialog whose keys get and set use (general)")},
-    {"json", "", "", QT_TRANSLATE_NOOP("SettingsText", "get, set, apply, restore, history: print one JSON\ndocument (set, apply, restore: per prefix the\n"
-                     "user, changed, keys with old and new values,\nfiles, error)")},
-    {"origin", "", "", QT_TRANSLATE_NOOP("SettingsText", "get: put \"stored\" or \"default\" and a tab in front")},
-    {"check", "", "", QT_TRANSLATE_NOOP("SettingsText", "set, apply, restore: report what would change,\nwrite nothing")},
+    {"json", "", "", QT_TRANSLATE_NOOP("SettingsText", "get, set, apply, restore, heal, history: print one\nJSON document (set, apply, restore, heal: per prefix\n"
+                     "the user, changed, keys with old and new values,\nfiles, error)")},
+    {"origin", "", "", QT_TRANSLATE_NOOP("SettingsText", "get: put \"stored\", \"office\", \"locked\" or \"default\"\nand a tab in front")},
+    {"check", "", "", QT_TRANSLATE_NOOP("SettingsText", "set, apply, restore, heal: report what would\nchange, write nothing")},
     {"detailed-exitcodes", "", "", QT_TRANSLATE_NOOP("SettingsText", "exit statuses as Puppet's option of that name")},
     {"prefix", "", "DIR", QT_TRANSLATE_NOOP("SettingsText", "a Wine prefix in place of $WINEPREFIX (repeatable)")},
     {"prefixes-from", "", "FILE", QT_TRANSLATE_NOOP("SettingsText", "prefixes from FILE, one a line ('#' starts a comment)")},

@@ -5,10 +5,12 @@
 // The command line, read by QCommandLineParser: a command, its arguments and
 // the options, in any order behind the command; "--" ends the options.
 
+#include "model/OfficeStandard.h"
 #include "model/SettingKeys.h"
 
 #include <QStringList>
 
+#include <memory>
 #include <optional>
 #include <span>
 
@@ -25,6 +27,7 @@ struct Options {
     bool helpAll = false;                 // --help-all: the usage and every option
     QStringList prefixes;                 // empty: the environment's
     std::optional<QString> user;
+    std::shared_ptr<const OfficeStandard> standard; // read by main, not a word of the command line
 };
 
 // An option of the command line, as the usage and QCommandLineParser show it.

@@ -21,7 +21,13 @@ namespace {
 constexpr SettingSection kBothSections[] = {SettingSection::General, SettingSection::Slope};
 
 QString originOf(const ShownValue& value) {
-    return value.stored ? QStringLiteral("stored") : QStringLiteral("default");
+    switch (value.origin) {
+    case ValueOrigin::Stored: return QStringLiteral("stored");
+    case ValueOrigin::Office: return QStringLiteral("office");
+    case ValueOrigin::Locked: return QStringLiteral("locked");
+    case ValueOrigin::Default: break;
+    }
+    return QStringLiteral("default");
 }
 
 // The values of the keys asked for, in the order asked; all when none is.
@@ -86,7 +92,7 @@ RunResult RunGet(const Options& options) {
         }
     QJsonArray json;
     const int failures = ForEachPrefix(options, [&](const WinePrefix& wine) {
-        const UserFiles user(wine, options.user);
+        const UserFiles user(wine, options.user, options.standard);
         if (!readable(user, user.readError())) return false;
         const QString prefix = wine.name();
         const QList<ShownValue> values = chosen(user.values(options.section), options.arguments);
@@ -111,7 +117,7 @@ RunResult RunExport(const Options& options) {
     }
     ProfileDocument profile;
     const int failures = ForEachPrefix(options, [&](const WinePrefix& wine) {
-        const UserFiles user(wine, options.user);
+        const UserFiles user(wine, options.user, options.standard);
         if (!readable(user, user.readError())) return false;
         bool all = true;
         for (SettingSection section : kBothSections) {
@@ -147,7 +153,7 @@ RunResult RunHistory(const Options& options) {
     QJsonArray json;
     const int failures = ForEachPrefix(options, [&](const WinePrefix& wine) {
         const QString prefix = wine.name();
-        const UserFiles user(wine, options.user);
+        const UserFiles user(wine, options.user, options.standard);
         // Without zorel.ini the user's folder is unknown: an empty history would
         // pass for the user's.
         if (!readable(user, user.zorelIniError())) return false;

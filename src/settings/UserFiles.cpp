@@ -1,6 +1,7 @@
 #include "settings/UserFiles.h"
 
 #include "model/FailureText.h"
+#include "model/OfficeStandard.h"
 #include "model/GeneralLoad.h"
 #include "model/SlopeOpening.h"
 #include "model/VariableCommit.h"
@@ -13,14 +14,16 @@
 
 namespace brimo {
 
-UserFiles::UserFiles(const WinePrefix& prefix, const std::optional<QString>& user) {
+UserFiles::UserFiles(const WinePrefix& prefix, const std::optional<QString>& user,
+                     std::shared_ptr<const OfficeStandard> standard) {
     Failure zorelIni, brimoIni;
     LoadInstallInfo(prefix, info_, &zorelIni);
+    info_.standard = std::move(standard);
     if (zorelIni) zorelIniError_ = QStringLiteral("%1: %2").arg(ZorelIniPath(), FailureText(zorelIni));
     if (user) info_.actuel = *user == QLatin1String("Default") ? QString() : *user;
     lock_.emplace(prefix, BrimoIniPath(info_));
     ini_ = LoadProfile(prefix, BrimoIniPath(info_), &brimoIni);
-    LoadGeneralVariables(info_, variables_);
+    LoadGeneralVariables(ini_, variables_, info_.standard.get());
     const QString brimoError = brimoIni ? QStringLiteral("%1: %2").arg(BrimoIniPath(info_), FailureText(brimoIni)) : QString();
     for (const QString& error : {zorelIniError_, brimoError})
         if (!error.isEmpty()) readError_ += (readError_.isEmpty() ? QString() : QStringLiteral("\n")) + error;
@@ -30,14 +33,20 @@ QString UserFiles::storedText(SettingSection section, const QString& key) const 
     return ReadProfileString(ini_, SectionName(section), key);
 }
 
+ValueOrigin UserFiles::originOf(SettingSection section, const QString& key) const {
+    const OfficeKey* office = info_.standard ? info_.standard->find(section, key) : nullptr;
+    if (office && office->locked) return ValueOrigin::Locked;
+    // The slope dialog loads nothing stored.
+    if (section == SettingSection::General && !storedText(section, key).isEmpty()) return ValueOrigin::Stored;
+    return office ? ValueOrigin::Office : ValueOrigin::Default;
+}
+
 QList<ShownValue> UserFiles::values(SettingSection section) const {
     QList<ShownValue> shown;
-    for (const SettingKey& key : SettingKeys(section)) {
-        const QString stored = storedText(section, key.key);
-        const bool isStored = !stored.isEmpty();
-        if (section == SettingSection::General) shown.append({key.key, variables_.text(key.key), isStored});
-        else shown.append({key.key, SlopeValue(SlopeOpeningState(), key.key), false}); // it loads nothing stored
-    }
+    const SlopeControlState slope = SlopeOpeningWith(info_.standard.get());
+    for (const SettingKey& key : SettingKeys(section))
+        shown.append({key.key, section == SettingSection::General ? variables_.text(key.key) : SlopeValue(slope, key.key),
+                      originOf(section, key.key)});
     return shown;
 }
 
@@ -46,7 +55,7 @@ QList<ShownValue> UserFiles::committedValues(SettingSection section) const {
     QList<ShownValue> committed;
     for (const CommittedRow& row : ComposeGeneralCommit(LoadedControlState(variables_)))
         committed.append({FindSettingKey(section, row.key) ? FindSettingKey(section, row.key)->key : row.key, row.value,
-                          !storedText(section, row.key).isEmpty()});
+                          originOf(section, row.key)});
     return committed;
 }
 
@@ -57,7 +66,7 @@ std::optional<QList<CommittedRow>> UserFiles::planCommit(CommitPlan& plan, Setti
         return std::nullopt;
     }
     if (section == SettingSection::Slope) {
-        SlopeControlState state = SlopeOpeningState();
+        SlopeControlState state = SlopeOpeningWith(info_.standard.get());
         ApplyEdits(state, edits);
         return PlanSlopeCommit(plan, info_, state);
     }

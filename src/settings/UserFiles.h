@@ -15,10 +15,13 @@
 
 namespace brimo {
 
+// Where a value that a dialog shows comes from.
+enum class ValueOrigin { Stored, Default, Office, Locked };
+
 struct ShownValue {
     QString key;
     QString value;
-    bool stored; // from Brimo.ini; otherwise the default
+    ValueOrigin origin;
 };
 
 class UserFiles {
@@ -27,8 +30,10 @@ public:
     // or undoes a commit that a kill cut off) and reads Brimo.ini, as the
     // program's entry does; `user` stands in for [Users] actuel. The lock is
     // held until this object ends, so that no other program writes between
-    // what is read here and what is written.
-    UserFiles(const WinePrefix& prefix, const std::optional<QString>& user);
+    // what is read here and what is written. The office standard's values
+    // and locks stand in the values and in every commit.
+    UserFiles(const WinePrefix& prefix, const std::optional<QString>& user,
+              std::shared_ptr<const OfficeStandard> standard);
 
     const InstallInfo& info() const { return info_; }
     const UserFolderLock& lock() const { return *lock_; }
@@ -41,7 +46,8 @@ public:
     const QString& zorelIniError() const { return zorelIniError_; }
 
     // Each key of the section with the text the dialog starts from: the
-    // stored text, or the default (the form's design for the slope dialog).
+    // stored text, the office's, or the default (the form's design for the
+    // slope dialog); a locked key the standard's.
     QList<ShownValue> values(SettingSection section) const;
 
     // Each key of the section with the value that the dialog's OK would
@@ -62,6 +68,8 @@ public:
                                                   QString* error) const;
 
 private:
+    ValueOrigin originOf(SettingSection section, const QString& key) const;
+
     InstallInfo info_;
     std::optional<UserFolderLock> lock_;
     QString readError_, zorelIniError_;

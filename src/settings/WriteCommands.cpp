@@ -39,10 +39,21 @@ void refuse(const QString& error, QStringList& refusals) {
     refusals.append(error);
 }
 
+// A key that the office standard locks takes no other value than its.
+void refuseLocked(const Options& options, SettingSection section, const Edit& edit, QStringList& refusals) {
+    const OfficeKey* office = options.standard ? options.standard->find(section, edit.key->key) : nullptr;
+    if (office && office->locked && office->value != edit.value)
+        refuse(SettingsText::tr("%1: the office standard %2 locks it at \"%3\"").arg(edit.key->key, options.standard->file, office->value),
+               refusals);
+}
+
 SectionEdits editsOfCommandLine(const Options& options, QStringList& refusals) {
     QList<Edit> edits;
     for (const QString& assignment : options.arguments)
-        if (auto edit = parseOrRefuse(options.section, assignment, refusals)) edits.append(*edit);
+        if (auto edit = parseOrRefuse(options.section, assignment, refusals)) {
+            refuseLocked(options, options.section, *edit, refusals);
+            edits.append(*edit);
+        }
     return SectionEdits{{options.section, edits}};
 }
 
@@ -72,8 +83,10 @@ SectionEdits editsOfProfile(const Options& options, QStringList& refusals) {
         const QByteArray name = toCp1252(SectionName(section));
         QList<Edit> edits;
         for (const QByteArray& key : profile.keyNames(name))
-            if (auto edit = parseOrRefuse(section, fromCp1252(key + '=' + profile.getString(name, key)), refusals))
+            if (auto edit = parseOrRefuse(section, fromCp1252(key + '=' + profile.getString(name, key)), refusals)) {
+                refuseLocked(options, section, *edit, refusals);
                 edits.append(*edit);
+            }
         if (!edits.isEmpty()) all.append({section, edits});
     }
     if (all.isEmpty() && refusals.isEmpty())
@@ -119,15 +132,15 @@ void printText(const PrefixReport& report, bool check) {
 
 // One prefix: compose every commit, compare with the files, write when they
 // differ (unless only checking).
-PrefixReport commitOnPrefix(const Options& options, const SectionEdits& edits, const WinePrefix& prefix) {
-    const UserFiles user(prefix, options.user);
+PrefixReport commitOnPrefix(const Options& options, const SectionEdits& edits, const QString& what, const WinePrefix& prefix) {
+    const UserFiles user(prefix, options.user, options.standard);
     PrefixReport report{prefix.name(), user.info().actuel, false, {}, {}, {}};
     if (const FolderLock::State state = user.lock().state(); state == FolderLock::State::Busy || state == FolderLock::State::Unavailable) {
         report.error = QStringLiteral("%1: %2").arg(user.lock().iniPath(), FailureText(user.lock().failure().reason));
         return report;
     }
     CommitPlan plan(user.lock());
-    plan.setWhat(options.command);
+    plan.setWhat(what);
     for (const auto& [section, sectionEdits] : edits) {
         QString error;
         const std::optional<QList<CommittedRow>> rows = user.planCommit(plan, section, sectionEdits, &error);
@@ -200,14 +213,17 @@ RunResult reportEverywhere(const Options& options, const QStringList& refusals,
     return result;
 }
 
-RunResult commitEverywhere(const Options& options, const SectionEdits& edits, const QStringList& refusals) {
-    return reportEverywhere(options, refusals,
-                            [&](const WinePrefix& prefix) { return commitOnPrefix(options, edits, prefix); });
+// `what` names the commit in the history: the command, by default.
+RunResult commitEverywhere(const Options& options, const SectionEdits& edits, const QStringList& refusals,
+                           const QString& what = {}) {
+    return reportEverywhere(options, refusals, [&](const WinePrefix& prefix) {
+        return commitOnPrefix(options, edits, what.isEmpty() ? options.command : what, prefix);
+    });
 }
 
 // One prefix: the files of a history entry brought back.
 PrefixReport restoreOnPrefix(const Options& options, int number, const WinePrefix& prefix) {
-    const UserFiles user(prefix, options.user);
+    const UserFiles user(prefix, options.user, options.standard);
     PrefixReport report{prefix.name(), user.info().actuel, false, {}, {}, {}};
     const QString nativeIni = user.lock().nativeIniPath();
     QString error;
@@ -251,6 +267,20 @@ RunResult RunApply(const Options& options) {
     QStringList refusals;
     const SectionEdits edits = editsOfProfile(options, refusals);
     return commitEverywhere(options, edits, refusals);
+}
+
+// Every key that the office standard gives or locks, at its value, on each
+// prefix: with --check, which users differ from the standard and in what.
+RunResult RunHeal(const Options& options) {
+    QStringList refusals;
+    SectionEdits edits;
+    if (!options.arguments.isEmpty()) refuse(SettingsText::tr("heal takes no argument"), refusals);
+    else if (!options.standard) refuse(SettingsText::tr("%1: no office standard to heal to").arg(OfficeStandardPath()), refusals);
+    else
+        for (SettingSection section : {SettingSection::General, SettingSection::Slope})
+            if (const QList<Edit> office = options.standard->edits(section, true); !office.isEmpty()) edits.append({section, office});
+    return commitEverywhere(options, edits, refusals,
+                            options.standard ? QStringLiteral("heal %1").arg(options.standard->file) : QString());
 }
 
 RunResult RunRestore(const Options& options) {

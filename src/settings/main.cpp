@@ -28,6 +28,17 @@ int main(int argc, char** argv) {
         Complain(SettingsText::tr("%1 (see brimo-settings --help)").arg(error));
         return ExitStatusOf({true}, arguments.contains(QStringLiteral("--detailed-exitcodes")));
     }
-    const RunResult result = FindCommand(options->command)->run(*options);
+    // A standard that cannot be read or holds a refused value would give the
+    // users other values than the office means: nothing is done.
+    Options withStandard = *options;
+    if (options->command != QLatin1String("help") && options->command != QLatin1String("version")) {
+        const LoadedStandard standard = LoadOfficeStandard();
+        if (standard.problem) {
+            Complain(StandardProblemText(standard.file, *standard.problem));
+            return ExitStatusOf({true}, options->detailedExitCodes);
+        }
+        withStandard.standard = standard.standard;
+    }
+    const RunResult result = FindCommand(options->command)->run(withStandard);
     return ExitStatusOf(result, options->detailedExitCodes);
 }

@@ -8,6 +8,7 @@
 #include <QAbstractButton>
 #include <QApplication>
 #include <QDir>
+#include <QFile>
 #include <QLineEdit>
 #include <QTabWidget>
 #include <QTest>
@@ -58,7 +59,7 @@ TEST_F(DialogCase, OkWritesBothFilesFromWhatTheControlsHold) {
     for (const QByteArray& row : rows) {
         if (row.isEmpty() || row.startsWith('#')) continue;
         const QStringList c = QString::fromUtf8(row).split(u'\t');
-        ASSERT_EQ(c.size(), 7) << row.constData();
+        ASSERT_EQ(c.size(), 8) << row.constData();
         SCOPED_TRACE(c[0].toStdString());
         const bool slope = c[1] == u"slope";
         TearDown();
@@ -66,6 +67,9 @@ TEST_F(DialogCase, OkWritesBothFilesFromWhatTheControlsHold) {
         SetUp();
         if (c[2] != u"-") writeBrimoIni(Golden(c[2]));
         if (c[3] != u"-") prefix.write(slope ? kTalusPath : kLispPath, Golden(c[3]));
+        QFile standard(prefix.standardPath());
+        standard.remove();
+        if (c[7] != u"-") ASSERT_TRUE(standard.open(QIODevice::WriteOnly) && standard.write(Golden(c[7])) > 0 && standard.flush());
         openDialog(slope);
         for (const QString& action : c[4].split(QStringLiteral("; "))) play(action);
         ExpectGolden(c[5], prefix.read(slope ? kTalusPath : kLispPath));

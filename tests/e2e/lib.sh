@@ -12,6 +12,8 @@ e2e_setup() {
   E2E_DIR=$(mktemp -d)
   trap e2e_teardown EXIT
   export WINEPREFIX=$E2E_DIR/prefix
+  # No office standard but the one a case writes there.
+  export BRIMO_STANDARD=$E2E_DIR/standard.ini
   mkdir -p "$WINEPREFIX/drive_c/windows" "$WINEPREFIX/dosdevices"
   ln -s ../drive_c "$WINEPREFIX/dosdevices/c:"
   # A display of our own: a free number tried in random order, kept only

@@ -15,6 +15,8 @@ G=$HERE/../golden/settings/${LOCALE%%.*} A=$HERE/../golden/settings/any-locale T
 SU=
 trap 'rm -rf "$T"; [ -n "$SU" ] && userdel "$SU"' EXIT
 export LC_ALL=C.UTF-8 QT_QPA_PLATFORM=offscreen PATH=$(dirname "$SETTINGS"):$PATH
+# No office standard but the one a row writes there.
+export BRIMO_STANDARD=$T/standard.ini
 
 # The locale's numbers and money, with messages in English (LANG=C) unless
 # a row sets MESSAGES (a locale, as LC_MESSAGES) to hear brimo-settings' own words.

@@ -35,8 +35,12 @@ static QString stateOf(QWidget* w) {
         if (field->alignment() & Qt::AlignHCenter) state << "centred";
         if (field->cursorPosition()) state << QStringLiteral("cursor=%1").arg(field->cursorPosition());
     }
-    if (w->focusPolicy() != Qt::NoFocus)
-        state << QStringLiteral("name=\"%1\"").arg(QAccessible::queryAccessibleInterface(w)->text(QAccessible::Name));
+    if (w->focusPolicy() != Qt::NoFocus) {
+        QAccessibleInterface* face = QAccessible::queryAccessibleInterface(w);
+        state << QStringLiteral("name=\"%1\"").arg(face->text(QAccessible::Name));
+        if (!face->text(QAccessible::Description).isEmpty())
+            state << QStringLiteral("description=\"%1\"").arg(face->text(QAccessible::Description));
+    }
     if (auto* tabs = qobject_cast<QTabWidget*>(w)) state << tabsOf(tabs);
     if (auto* tabs = qobject_cast<RowTabControl*>(w)) state << tabsOf(tabs);
     return state.join(QLatin1Char(' '));

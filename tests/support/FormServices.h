@@ -8,6 +8,7 @@
 #include "model/GeneralVariables.h"
 #include "model/InstallInfo.h"
 #include "model/LegendTable.h"
+#include "model/OfficeStandard.h"
 #include "model/UserLegends.h"
 
 #include <QList>
@@ -37,9 +38,10 @@ public:
     }
     void endProgram() override {}
 
-    // The three loads in the order of the program's entry.
+    // The loads in the order of the program's entry.
     void load() {
         LoadInstallInfo(WinePrefix::FromEnvironment(), info);
+        info.standard = LoadOfficeStandard().standard;
         LoadGeneralVariables(info, variables);
         loadLegends();
     }

@@ -18,11 +18,14 @@ ScratchPrefix::ScratchPrefix() {
     QDir(root()).mkpath(QStringLiteral("dosdevices"));
     ::symlink("../drive_c", QFile::encodeName(root() + QStringLiteral("/dosdevices/c:")).constData());
     qputenv("WINEPREFIX", QFile::encodeName(root()));
+    // No office standard but the one a test writes beside the prefix.
+    qputenv("BRIMO_STANDARD", QFile::encodeName(standardPath()));
 }
 
 ScratchPrefix::~ScratchPrefix() {
     if (hadPrevious_) qputenv("WINEPREFIX", previous_);
     else qunsetenv("WINEPREFIX");
+    qunsetenv("BRIMO_STANDARD");
 }
 
 QString ScratchPrefix::native(const QString& windowsPath) const {

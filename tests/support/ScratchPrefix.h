@@ -1,6 +1,7 @@
 #pragma once
 // A Wine-style prefix in a temporary folder, with drive_c/windows and the
-// dosdevices/c: link, made the current WINEPREFIX for the life of the object.
+// dosdevices/c: link, made the current WINEPREFIX for the life of the object;
+// the office standard in force is the file standardPath() beside it.
 
 #include <QByteArray>
 #include <QString>
@@ -14,6 +15,7 @@ public:
     ~ScratchPrefix();
 
     QString root() const { return dir_.path(); }
+    QString standardPath() const { return root() + QStringLiteral("/standard.ini"); }
     // Native path of a text such as "C:\Zorel\Var\Brimo.ini".
     QString native(const QString& windowsPath) const;
     // Writes raw bytes to a Windows path, creating its folders.

@@ -8,6 +8,7 @@
 #include "forms/DesignFont.h"
 #include "forms/WindowServices.h"
 #include "model/LegendNumbers.h"
+#include "model/OfficeStandard.h"
 #include "model/ProgramLanguage.h"
 #include "model/UserLegends.h"
 #include "platform/WindowsPaths.h"
@@ -112,11 +113,26 @@ void CGeneralForm::Form_Load() {
             if (const std::optional<int> value = StoredCheckState(variables.text(QLatin1String(row.key))))
                 checkBoxes_.value(QLatin1String(row.field))->setCheckState(checkStateOf(*value));
 
+    showLockedKeys();
     CentreOnScreen(this);
     // What OK compares with, to keep what another program writes meanwhile
     // in the controls that the user leaves alone.
     loadedFrom_ = stored_;
     loaded_ = controlState();
+}
+
+// A key that the office standard locks: its field, check box or every
+// button of its group greyed, saying why.
+void CGeneralForm::showLockedKeys() {
+    if (!info_.standard) return;
+    const QString why = LockedByStandardText(*info_.standard);
+    for (const Edit& locked : info_.standard->edits(SettingSection::General)) {
+        const QString& control = locked.key->control;
+        if (locked.key->kind != KeyKind::Choice) ShowAsFixed(controls_.byName.value(control), why);
+        else
+            for (auto button = options_.cbegin(); button != options_.cend(); ++button)
+                if (OptionGroupOf(button.key()) == control) ShowAsFixed(button.value(), why);
+    }
 }
 
 void CGeneralForm::SSTab1_Click() { setCaptions(TabCaptionTable(controls_.tabs->currentIndex())); }

@@ -50,6 +50,7 @@ private:
     void showControlState(const GeneralControlState& state);
     void refuseUnwritableQuote(const UnwritableField& field);
     void showTabOf(QWidget* control);
+    void showLockedKeys();
 
     Navigator& navigator_;
     const InstallInfo& info_;

@@ -7,6 +7,7 @@
 #include "forms/DesignFont.h"
 #include "forms/RuleField.h"
 #include "forms/WindowServices.h"
+#include "model/OfficeStandard.h"
 
 #include <QCheckBox>
 #include <QGroupBox>
@@ -143,7 +144,24 @@ void CParamRechTalus::bindEvents() {
     }
 }
 
-void CParamRechTalus::Form_Load() { CentreOnScreen(this); }
+void CParamRechTalus::Form_Load() {
+    showOfficeStandard();
+    CentreOnScreen(this);
+}
+
+// The office's values in place of the form's own, and the keys it locks
+// greyed, saying why. Without a standard the form stays as designed.
+void CParamRechTalus::showOfficeStandard() {
+    if (!info_.standard || info_.standard->edits(SettingSection::Slope, true).isEmpty()) return;
+    const SlopeControlState state = SlopeOpeningWith(info_.standard.get());
+    control<QCheckBox>("Check1")->setChecked(state.check1Ticked);
+    control<QCheckBox>("Check2")->setChecked(state.check2Ticked);
+    control<QRadioButton>(state.option2Chosen ? "Option2" : "Option1")->setChecked(true);
+    for (std::size_t i = 0; i < state.texts.size(); ++i) control<RuleField>(kTextFields[i])->setText(state.texts[i]);
+    const QString why = LockedByStandardText(*info_.standard);
+    for (const Edit& locked : info_.standard->edits(SettingSection::Slope))
+        for (const QString& name : SlopeKeyControls(locked.key->key)) ShowAsFixed(control<QWidget>(name.toLatin1().constData()), why);
+}
 
 void CParamRechTalus::Check1_Click() { untickOtherWhenTicked("Check1", "Check2"); }
 void CParamRechTalus::Check2_Click() { untickOtherWhenTicked("Check2", "Check1"); }

@@ -36,6 +36,7 @@ public:
 
 private:
     QWidget* createControl(const SlopeControl& control, QWidget* parent);
+    void showOfficeStandard();
     void drawSketches();
     void chainTabStops();
     void bindEvents();
