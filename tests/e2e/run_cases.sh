@@ -25,6 +25,8 @@ step_window() { e2e_wait_window "$1" >/dev/null || fail "no window '$1'"; }
 step_focus() { local id; id=$(e2e_wait_window "$1") || fail "no window '$1'"; xdotool windowfocus --sync "$id"; sleep 0.5; }
 step_keys() { e2e_keys $1; }
 step_type() { e2e_type "$1"; }
+# A click of the left button at X Y of the window (its client area).
+step_click() { xdotool mousemove --window "$(window_id "$1")" $2 click 1; sleep 0.3; }
 step_gone() { sleep 0.5; [ -z "$(window_id "$1")" ] || fail "the window '$1' is open"; }
 step_alive() { kill -0 "$E2E_PID" 2>/dev/null || fail "the program ended"; }
 step_stop() { kill "$E2E_PID"; wait "$E2E_PID" 2>/dev/null || true; E2E_PID=; }
