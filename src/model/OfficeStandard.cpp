@@ -7,6 +7,7 @@
 #include "platform/ProfileDocument.h"
 
 #include <QCoreApplication>
+#include <QFileInfo>
 
 #include <algorithm>
 
@@ -87,6 +88,8 @@ QString OfficeStandardPath() {
 
 LoadedStandard LoadOfficeStandard(const QString& file) {
     LoadedStandard loaded{file, nullptr, std::nullopt};
+    // No file at the path is the common case: one failed stat, nothing more.
+    if (!QFileInfo::exists(file)) return loaded;
     Failure failure;
     const std::optional<QByteArray> bytes = ReadWholeFile(file, &failure);
     if (!bytes) {

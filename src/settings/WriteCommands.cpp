@@ -15,6 +15,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <algorithm>
 #include <cstdio>
 
 namespace brimo {
@@ -255,6 +256,29 @@ PrefixReport restoreOnPrefix(const Options& options, int number, const WinePrefi
     return report;
 }
 
+// The files brought back byte for byte, the keys that the office standard
+// locks take its values again, in a commit of their own when they differ
+// ("heal FILE" in the history); the report tells both.
+void keepLocks(const Options& options, const WinePrefix& prefix, PrefixReport& report) {
+    SectionEdits locked;
+    if (options.standard)
+        for (SettingSection section : {SettingSection::General, SettingSection::Slope})
+            if (const QList<Edit> edits = options.standard->edits(section); !edits.isEmpty()) locked.append({section, edits});
+    if (locked.isEmpty()) return;
+    const PrefixReport healed = commitOnPrefix(options, locked, QStringLiteral("heal %1").arg(options.standard->file), prefix);
+    if (!healed.error.isEmpty()) report.error = healed.error;
+    for (const QStringList& key : healed.keys) {
+        const auto same = std::find_if(report.keys.begin(), report.keys.end(),
+                                       [&](const QStringList& k) { return k[0] == key[0] && k[1] == key[1]; });
+        if (same != report.keys.end()) (*same)[3] = key[3];
+        else report.keys.append(key);
+    }
+    // A key that the restore took away and the locks put back did not change.
+    erase_if(report.keys, [](const QStringList& key) { return key[2] == key[3]; });
+    for (const QString& file : healed.files)
+        if (!report.files.contains(file)) report.files.append(file);
+}
+
 } // namespace
 
 RunResult RunSet(const Options& options) {
@@ -292,8 +316,11 @@ RunResult RunRestore(const Options& options) {
         number = options.arguments.first().toInt(&ok);
         if (!ok || number <= 0) refuse(SettingsText::tr("%1: no entry number").arg(options.arguments.first()), refusals);
     }
-    return reportEverywhere(options, refusals,
-                            [&](const WinePrefix& prefix) { return restoreOnPrefix(options, number, prefix); });
+    return reportEverywhere(options, refusals, [&](const WinePrefix& prefix) {
+        PrefixReport report = restoreOnPrefix(options, number, prefix);
+        if (report.changed && !options.check && report.error.isEmpty()) keepLocks(options, prefix, report);
+        return report;
+    });
 }
 
 } // namespace brimo
