@@ -121,15 +121,18 @@ void CGeneralForm::Form_Load() {
     loaded_ = controlState();
 }
 
-// A key that the office standard locks: its field, check box or every
-// button of its group greyed, saying why.
+// A key that the office standard locks: its field (and a location's button),
+// check box or every button of its group greyed, saying why.
 void CGeneralForm::showLockedKeys() {
     if (!info_.standard) return;
     const QString why = LockedByStandardText(*info_.standard);
     for (const Edit& locked : info_.standard->edits(SettingSection::General)) {
         const QString& control = locked.key->control;
         if (locked.key->kind != KeyKind::Choice) ShowAsFixed(controls_.byName.value(control), why);
-        else
+        // A program's location comes from its field or from its button's file dialog.
+        for (const ProgramLocation& location : kProgramLocations)
+            if (control == QLatin1String(location.field)) ShowAsFixed(controls_.byName.value(QLatin1String(location.button)), why);
+        if (locked.key->kind == KeyKind::Choice)
             for (auto button = options_.cbegin(); button != options_.cend(); ++button)
                 if (OptionGroupOf(button.key()) == control) ShowAsFixed(button.value(), why);
     }
