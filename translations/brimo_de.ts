@@ -297,10 +297,6 @@ Siehe brimo-settings(1).
         <translation>%1: Zeichen, die Windows-1252 nicht kennt, werden wie im Dialog als ? geschrieben: %2</translation>
     </message>
     <message>
-        <source>%1 (see brimo-settings --help)</source>
-        <translation>%1 (siehe brimo-settings --help)</translation>
-    </message>
-    <message>
         <source>--prefixes-from %1: cannot be read</source>
         <translation>--prefixes-from %1: kann nicht gelesen werden</translation>
     </message>
@@ -472,6 +468,22 @@ change, write nothing</source>
     <message>
         <source>%1: no office standard to heal to</source>
         <translation>%1: kein Bürostandard, an den angeglichen werden kann</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; holds &quot;%3&quot;, which this locale&apos;s numbers do not take for their decimal symbol (&quot;%4&quot;); the add-on receives %2 as written</source>
+        <translation>%1: „%2“ enthält „%3“, das die Zahlen dieses Gebietsschemas nicht als Dezimaltrennzeichen nehmen („%4“); die Erweiterung erhält %2 so, wie es dasteht</translation>
+    </message>
+    <message>
+        <source>get: print the bare value of one key</source>
+        <translation>get: gibt nur den Wert eines Schlüssels aus</translation>
+    </message>
+    <message>
+        <source>no command</source>
+        <translation>kein Befehl</translation>
+    </message>
+    <message>
+        <source>get --value takes one KEY</source>
+        <translation>get --value nimmt genau einen KEY</translation>
     </message>
 </context>
 <context>

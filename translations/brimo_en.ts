@@ -293,10 +293,6 @@ See brimo-settings(1).
         <translation>%1: characters that Windows-1252 lacks are written as ?, as the dialog writes them: %2</translation>
     </message>
     <message>
-        <source>%1 (see brimo-settings --help)</source>
-        <translation>%1 (see brimo-settings --help)</translation>
-    </message>
-    <message>
         <source>--prefixes-from %1: cannot be read</source>
         <translation>--prefixes-from %1: cannot be read</translation>
     </message>
@@ -461,6 +457,22 @@ change, write nothing</translation>
     <message>
         <source>%1: no office standard to heal to</source>
         <translation>%1: no office standard to heal to</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; holds &quot;%3&quot;, which this locale&apos;s numbers do not take for their decimal symbol (&quot;%4&quot;); the add-on receives %2 as written</source>
+        <translation>%1: &quot;%2&quot; holds &quot;%3&quot;, which this locale&apos;s numbers do not take for their decimal symbol (&quot;%4&quot;); the add-on receives %2 as written</translation>
+    </message>
+    <message>
+        <source>get: print the bare value of one key</source>
+        <translation>get: print the bare value of one key</translation>
+    </message>
+    <message>
+        <source>no command</source>
+        <translation>no command</translation>
+    </message>
+    <message>
+        <source>get --value takes one KEY</source>
+        <translation>get --value takes one KEY</translation>
     </message>
 </context>
 <context>

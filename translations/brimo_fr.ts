@@ -297,10 +297,6 @@ Voir brimo-settings(1).
         <translation>%1 : les caractères absents de Windows-1252 sont écrits « ? », comme les écrit la boîte de dialogue : %2</translation>
     </message>
     <message>
-        <source>%1 (see brimo-settings --help)</source>
-        <translation>%1 (voir brimo-settings --help)</translation>
-    </message>
-    <message>
         <source>--prefixes-from %1: cannot be read</source>
         <translation>--prefixes-from %1 : illisible</translation>
     </message>
@@ -472,6 +468,22 @@ changerait, n&apos;écrit rien</translation>
     <message>
         <source>%1: no office standard to heal to</source>
         <translation>%1 : aucun standard du bureau auquel se conformer</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; holds &quot;%3&quot;, which this locale&apos;s numbers do not take for their decimal symbol (&quot;%4&quot;); the add-on receives %2 as written</source>
+        <translation>%1 : « %2 » contient « %3 », que les nombres de cette langue ne prennent pas pour séparateur décimal (« %4 ») ; le module reçoit %2 tel quel</translation>
+    </message>
+    <message>
+        <source>get: print the bare value of one key</source>
+        <translation>get : affiche la seule valeur d&apos;une clé</translation>
+    </message>
+    <message>
+        <source>no command</source>
+        <translation>aucune commande</translation>
+    </message>
+    <message>
+        <source>get --value takes one KEY</source>
+        <translation>get --value prend une seule KEY</translation>
     </message>
 </context>
 <context>

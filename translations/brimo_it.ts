@@ -296,10 +296,6 @@ Vedere brimo-settings(1).
         <translation>%1: i caratteri assenti da Windows-1252 sono scritti come ?, come li scrive la finestra: %2</translation>
     </message>
     <message>
-        <source>%1 (see brimo-settings --help)</source>
-        <translation>%1 (vedere brimo-settings --help)</translation>
-    </message>
-    <message>
         <source>--prefixes-from %1: cannot be read</source>
         <translation>--prefixes-from %1: non può essere letto</translation>
     </message>
@@ -470,6 +466,22 @@ cambierebbe, non scrive nulla</translation>
     <message>
         <source>%1: no office standard to heal to</source>
         <translation>%1: nessuno standard dell&apos;ufficio a cui conformarsi</translation>
+    </message>
+    <message>
+        <source>%1: &quot;%2&quot; holds &quot;%3&quot;, which this locale&apos;s numbers do not take for their decimal symbol (&quot;%4&quot;); the add-on receives %2 as written</source>
+        <translation>%1: «%2» contiene «%3», che i numeri di questa lingua non usano come separatore decimale («%4»); il modulo riceve %2 così com&apos;è</translation>
+    </message>
+    <message>
+        <source>get: print the bare value of one key</source>
+        <translation>get: stampa il solo valore di una chiave</translation>
+    </message>
+    <message>
+        <source>no command</source>
+        <translation>nessun comando</translation>
+    </message>
+    <message>
+        <source>get --value takes one KEY</source>
+        <translation>get --value richiede una sola KEY</translation>
     </message>
 </context>
 <context>

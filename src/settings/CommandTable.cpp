@@ -7,7 +7,7 @@ namespace brimo {
 const std::array<CommandRow, 9> kCommandTable = {{
     {"get", "[KEY...]",
      QT_TRANSLATE_NOOP("SettingsText", "print each value the dialog would open with (all keys\nwhen none is given), as KEY=VALUE lines"),
-     "--dialog --json --origin --prefix --prefixes-from --user", RunGet},
+     "--dialog --json --origin --value --prefix --prefixes-from --user", RunGet},
     {"set", "KEY=VALUE...",
      QT_TRANSLATE_NOOP("SettingsText", "check each value as its field does, then write both\nfiles as the dialog's OK does; keys not given keep what\n"
      "the dialog opens with"),

@@ -1,6 +1,7 @@
 #include "settings/Edits.h"
 
 #include "platform/Cp1252.h"
+#include "platform/RegionalNumbers.h"
 #include "settings/Commands.h"
 
 namespace brimo {
@@ -25,6 +26,15 @@ std::optional<Edit> ParseEdit(SettingSection section, const QString& assignment,
     }
     const std::optional<QString> value = CheckedValue(*key, assignment.mid(equals + 1), error);
     if (!value) return std::nullopt;
+    // A number is written as given; one with a point or a comma that is not
+    // this locale's decimal symbol ("1,5" under a point locale) reaches the
+    // add-on as that text, which it cannot read as the number meant.
+    const QChar decimal = RegionalDecimalSymbol();
+    for (const QChar symbol : {QLatin1Char('.'), QLatin1Char(',')})
+        if (key->kind == KeyKind::RuleText && symbol != decimal && value->contains(symbol))
+            Complain(SettingsText::tr("%1: \"%2\" holds \"%3\", which this locale's numbers do not take for their decimal "
+                                      "symbol (\"%4\"); the add-on receives %2 as written")
+                         .arg(key->key, *value, symbol, decimal));
     // Both files are Windows-1252: what it lacks goes in as '?', as the
     // dialog's OK writes it; the user hears of it.
     if (fromCp1252(toCp1252(*value)) != *value)

@@ -29,6 +29,7 @@ constexpr OptionRow kOptions[] = {
     {"dialog", "", "general|slope", QT_TRANSLATE_NOOP("SettingsText", "the dialog whose keys get and set use (general)")},
     {"json", "", "", QT_TRANSLATE_NOOP("SettingsText", "get, set, apply, restore, heal, history: print one\nJSON document (set, apply, restore, heal: per prefix\n"
                      "the user, changed, keys with old and new values,\nfiles, error)")},
+    {"value", "", "", QT_TRANSLATE_NOOP("SettingsText", "get: print the bare value of one key")},
     {"origin", "", "", QT_TRANSLATE_NOOP("SettingsText", "get: put \"stored\", \"office\", \"locked\" or \"default\"\nand a tab in front")},
     {"check", "", "", QT_TRANSLATE_NOOP("SettingsText", "set, apply, restore, heal: report what would\nchange, write nothing")},
     {"detailed-exitcodes", "", "", QT_TRANSLATE_NOOP("SettingsText", "exit statuses as Puppet's option of that name")},
@@ -90,6 +91,7 @@ std::optional<Options> ParseOptions(const QStringList& arguments, QString* error
     options.helpAll = p.isSet("help-all");
     options.json = p.isSet("json");
     options.origin = p.isSet("origin");
+    options.bareValue = p.isSet("value");
     options.check = p.isSet("check");
     options.detailedExitCodes = p.isSet("detailed-exitcodes");
     options.prefixes = p.parser.values(QStringLiteral("prefix"));
@@ -105,7 +107,11 @@ std::optional<Options> ParseOptions(const QStringList& arguments, QString* error
             return std::nullopt;
         }
     }
-    if (options.command.isEmpty()) options.command = QStringLiteral("help");
+    // No command, or an unknown one: the usage goes to the standard error.
+    if (options.command.isEmpty()) {
+        *error = SettingsText::tr("no command");
+        return std::nullopt;
+    }
     if (!FindCommand(options.command)) {
         *error = SettingsText::tr("%1: no such command").arg(options.command);
         return std::nullopt;

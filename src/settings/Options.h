@@ -22,6 +22,7 @@ struct Options {
     SettingSection section = SettingSection::General;
     bool json = false;
     bool origin = false;
+    bool bareValue = false;               // get --value: the value alone
     bool check = false;
     bool detailedExitCodes = false;       // Puppet's --detailed-exitcodes
     bool helpAll = false;                 // --help-all: the usage and every option

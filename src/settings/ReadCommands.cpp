@@ -85,6 +85,10 @@ QString shortList(const QStringList& keys) {
 } // namespace
 
 RunResult RunGet(const Options& options) {
+    if (options.bareValue && options.arguments.size() != 1) {
+        Complain(SettingsText::tr("get --value takes one KEY"));
+        return {true};
+    }
     for (const QString& key : options.arguments)
         if (!FindSettingKey(options.section, key)) {
             Complain(SettingsText::tr("%1: no key of the %2 settings").arg(key, DialogName(options.section)));
@@ -98,6 +102,10 @@ RunResult RunGet(const Options& options) {
         const QList<ShownValue> values = chosen(user.values(options.section), options.arguments);
         if (options.json) {
             json.append(jsonOf(prefix, user, options.section, values));
+            return true;
+        }
+        if (options.bareValue) {
+            Print(Printable(values.first().value) + QLatin1Char('\n'));
             return true;
         }
         if (options.prefixes.size() > 1) Print(QStringLiteral("# %1\n").arg(Printable(prefix)));

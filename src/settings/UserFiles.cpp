@@ -36,14 +36,26 @@ QString UserFiles::storedText(SettingSection section, const QString& key) const 
 ValueOrigin UserFiles::originOf(SettingSection section, const QString& key) const {
     const OfficeKey* office = info_.standard ? info_.standard->find(section, key) : nullptr;
     if (office && office->locked) return ValueOrigin::Locked;
-    // The slope dialog loads nothing stored.
-    if (section == SettingSection::General && !storedText(section, key).isEmpty()) return ValueOrigin::Stored;
+    if (!storedText(section, key).isEmpty()) return ValueOrigin::Stored;
     return office ? ValueOrigin::Office : ValueOrigin::Default;
+}
+
+SlopeControlState UserFiles::storedSlopeState() const {
+    SlopeControlState state = SlopeOpeningWith(info_.standard.get());
+    for (const SettingKey& key : SettingKeys(SettingSection::Slope)) {
+        const QString stored = storedText(SettingSection::Slope, key.key);
+        if (stored.isEmpty() || (info_.standard && info_.standard->locked(SettingSection::Slope, key.key))) continue;
+        // Kept as stored, as the general dialog keeps its texts; one that a
+        // field would refuse leaves the form's.
+        QString error;
+        if (CheckedValue(key, stored, &error)) SetSlopeValue(state, key.key, stored);
+    }
+    return state;
 }
 
 QList<ShownValue> UserFiles::values(SettingSection section) const {
     QList<ShownValue> shown;
-    const SlopeControlState slope = SlopeOpeningWith(info_.standard.get());
+    const SlopeControlState slope = storedSlopeState();
     for (const SettingKey& key : SettingKeys(section))
         shown.append({key.key, section == SettingSection::General ? variables_.text(key.key) : SlopeValue(slope, key.key),
                       originOf(section, key.key)});
@@ -66,7 +78,7 @@ std::optional<QList<CommittedRow>> UserFiles::planCommit(CommitPlan& plan, Setti
         return std::nullopt;
     }
     if (section == SettingSection::Slope) {
-        SlopeControlState state = SlopeOpeningWith(info_.standard.get());
+        SlopeControlState state = storedSlopeState();
         ApplyEdits(state, edits);
         return PlanSlopeCommit(plan, info_, state);
     }

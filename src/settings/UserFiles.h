@@ -45,9 +45,11 @@ public:
     // The line of zorel.ini alone, which names the user's folder.
     const QString& zorelIniError() const { return zorelIniError_; }
 
-    // Each key of the section with the text the dialog starts from: the
-    // stored text, the office's, or the default (the form's design for the
-    // slope dialog); a locked key the standard's.
+    // Each key of the section with what is stored (for the general dialog,
+    // as it loads it), else the office's value, else the default (the slope
+    // form's own value); a locked key the standard's. The slope dialog itself
+    // opens with its form's values: the tool shows and keeps what is stored,
+    // which the add-on gets.
     QList<ShownValue> values(SettingSection section) const;
 
     // Each key of the section with the value that the dialog's OK would
@@ -58,9 +60,8 @@ public:
     // The text stored for a key now, empty when there is none.
     QString storedText(SettingSection section, const QString& key) const;
 
-    // Adds to `plan` the dialog's OK after `edits`, from the controls as the
-    // dialog opens (the general dialog with the stored values, the slope
-    // dialog with its design), and gives its rows. Nothing, with `error`,
+    // Adds to `plan` the dialog's OK after `edits`, from the controls
+    // holding what values() shows, and gives its rows. Nothing, with `error`,
     // when a file could not be read or a stored text holds a double quote
     // that the general dialog's OK would refuse. A stored text that the
     // dialog reads cut is said on stderr.
@@ -69,6 +70,7 @@ public:
 
 private:
     ValueOrigin originOf(SettingSection section, const QString& key) const;
+    SlopeControlState storedSlopeState() const;
 
     InstallInfo info_;
     std::optional<UserFolderLock> lock_;

@@ -8,6 +8,7 @@
 #include <QStringList>
 
 #include <csignal>
+#include <cstdio>
 
 int main(int argc, char** argv) {
     using namespace brimo;
@@ -25,7 +26,8 @@ int main(int argc, char** argv) {
     QString error;
     const std::optional<Options> options = ParseOptions(arguments, &error);
     if (!options) {
-        Complain(SettingsText::tr("%1 (see brimo-settings --help)").arg(error));
+        Complain(error);
+        std::fputs(Usage(false).toUtf8().constData(), stderr);
         return ExitStatusOf({true}, arguments.contains(QStringLiteral("--detailed-exitcodes")));
     }
     // A standard that cannot be read or holds a refused value would give the
