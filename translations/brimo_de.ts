@@ -485,6 +485,10 @@ change, write nothing</source>
         <source>get --value takes one KEY</source>
         <translation>get --value nimmt genau einen KEY</translation>
     </message>
+    <message>
+        <source>keys written out as the dialog shows them, none being stored: %1</source>
+        <translation>Schlüssel, die wie im Dialog angezeigt geschrieben werden, da keiner gespeichert war: %1</translation>
+    </message>
 </context>
 <context>
     <name>StartProblems</name>

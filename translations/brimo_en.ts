@@ -474,6 +474,10 @@ change, write nothing</translation>
         <source>get --value takes one KEY</source>
         <translation>get --value takes one KEY</translation>
     </message>
+    <message>
+        <source>keys written out as the dialog shows them, none being stored: %1</source>
+        <translation>keys written out as the dialog shows them, none being stored: %1</translation>
+    </message>
 </context>
 <context>
     <name>StartProblems</name>

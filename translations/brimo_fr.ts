@@ -485,6 +485,10 @@ changerait, n&apos;écrit rien</translation>
         <source>get --value takes one KEY</source>
         <translation>get --value prend une seule KEY</translation>
     </message>
+    <message>
+        <source>keys written out as the dialog shows them, none being stored: %1</source>
+        <translation>clés écrites telles que la boîte de dialogue les affiche, aucune n&apos;étant enregistrée : %1</translation>
+    </message>
 </context>
 <context>
     <name>StartProblems</name>

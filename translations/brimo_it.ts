@@ -483,6 +483,10 @@ cambierebbe, non scrive nulla</translation>
         <source>get --value takes one KEY</source>
         <translation>get --value richiede una sola KEY</translation>
     </message>
+    <message>
+        <source>keys written out as the dialog shows them, none being stored: %1</source>
+        <translation>chiavi scritte come le mostra la finestra, nessuna essendo salvata: %1</translation>
+    </message>
 </context>
 <context>
     <name>StartProblems</name>

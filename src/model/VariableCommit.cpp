@@ -181,7 +181,11 @@ CommitOutcome CommitPlan::write() const {
     if (!readFailure_.ok) return readFailure_;
     QList<FileToWrite> planned;
     for (const File& file : files()) planned.append(file.planned);
-    CommitOutcome outcome = writeWithHistory(nativeIni_, planned, what_, changedKeys_ + addedKeys_);
+    QStringList keys = changedKeys_ + addedKeys_;
+    std::stable_partition(keys.begin(), keys.end(), [this](const QString& key) {
+        return givenKeys_.contains(key, Qt::CaseInsensitive);
+    });
+    CommitOutcome outcome = writeWithHistory(nativeIni_, planned, what_, keys);
     for (const File& file : files())
         if (!outcome.ok && file.planned.nativePath == outcome.file) outcome.file = file.windowsPath;
     return outcome;

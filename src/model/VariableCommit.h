@@ -93,6 +93,8 @@ public:
 
     // What the history calls this commit ("OK" unless told).
     void setWhat(const QString& what) { what_ = what; }
+    // The keys ("section/key") that were asked for: the history names them first.
+    void setGivenKeys(const QStringList& keys) { givenKeys_ = keys; }
 
     // The Windows paths of the files whose bytes would change.
     QStringList changedFiles() const;
@@ -114,7 +116,7 @@ private:
     bool noFolder_ = false; // the folder is missing: the first file is named
     // "section/key" of the stored values that change, then of the keys that
     // the commit adds, for the history.
-    QStringList changedKeys_, addedKeys_;
+    QStringList changedKeys_, addedKeys_, givenKeys_;
     ProfileDocument ini_;
     QList<File> lispFiles_;
 };

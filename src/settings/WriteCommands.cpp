@@ -100,7 +100,7 @@ struct PrefixReport {
     QString prefix;
     QString user;
     bool changed = false;
-    QList<QStringList> keys; // section, key, old value, new value
+    QList<QStringList> keys; // section, key, old value, new value, "given" or "filled" or ""
     QStringList files;
     QString error;
 };
@@ -108,7 +108,8 @@ struct PrefixReport {
 QJsonObject jsonOf(const PrefixReport& report) {
     QJsonArray keys;
     for (const QStringList& key : report.keys)
-        keys.append(QJsonObject{{"section", key[0]}, {"key", key[1]}, {"old", key[2]}, {"new", key[3]}});
+        keys.append(QJsonObject{{"section", key[0]}, {"key", key[1]}, {"old", key[2]}, {"new", key[3]},
+                                {"given", key.value(4) == QLatin1String("given")}});
     QJsonObject json{{"prefix", report.prefix},
                      {"user", report.user},
                      {"changed", report.changed},
@@ -125,8 +126,14 @@ void printText(const PrefixReport& report, bool check) {
     }
     QString text = (check ? SettingsText::tr("%1: would change") : SettingsText::tr("%1: changed")).arg(Printable(report.prefix)) +
                    QLatin1Char('\n');
-    for (const QStringList& key : report.keys)
-        text += QStringLiteral("  %1: \"%2\" -> \"%3\"\n").arg(Printable(key[1]), Printable(key[2]), Printable(key[3]));
+    // A key that nothing stored and that the commit writes out with what the
+    // dialog shows is counted, not listed: the keys asked for stand out.
+    int filled = 0;
+    for (const QStringList& key : report.keys) {
+        if (key.value(4) == QLatin1String("filled")) ++filled;
+        else text += QStringLiteral("  %1: \"%2\" -> \"%3\"\n").arg(Printable(key[1]), Printable(key[2]), Printable(key[3]));
+    }
+    if (filled) text += QStringLiteral("  ") + SettingsText::tr("keys written out as the dialog shows them, none being stored: %1").arg(filled) + QLatin1Char('\n');
     for (const QString& file : report.files) text += QStringLiteral("  ") + SettingsText::tr("file %1").arg(Printable(file)) + QLatin1Char('\n');
     Print(text);
 }
@@ -142,6 +149,10 @@ PrefixReport commitOnPrefix(const Options& options, const SectionEdits& edits, c
     }
     CommitPlan plan(user.lock());
     plan.setWhat(what);
+    QStringList given;
+    for (const auto& [section, sectionEdits] : edits)
+        for (const Edit& edit : sectionEdits) given.append(SectionName(section) + QLatin1Char('/') + edit.key->key);
+    plan.setGivenKeys(given);
     for (const auto& [section, sectionEdits] : edits) {
         QString error;
         const std::optional<QList<CommittedRow>> rows = user.planCommit(plan, section, sectionEdits, &error);
@@ -150,8 +161,11 @@ PrefixReport commitOnPrefix(const Options& options, const SectionEdits& edits, c
             return report;
         }
         for (const CommittedRow& row : *rows)
-            if (const QString before = user.storedText(section, row.key); before != row.value)
-                report.keys.append({SectionName(section), row.key, before, row.value});
+            if (const QString before = user.storedText(section, row.key); before != row.value) {
+                const bool asked = given.contains(SectionName(section) + QLatin1Char('/') + row.key, Qt::CaseInsensitive);
+                report.keys.append({SectionName(section), row.key, before, row.value,
+                                    asked ? QStringLiteral("given") : before.isEmpty() ? QStringLiteral("filled") : QString()});
+            }
     }
     report.files = plan.changedFiles();
     report.changed = !report.files.isEmpty();
