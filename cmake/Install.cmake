@@ -32,16 +32,23 @@ install(FILES ${BRIMO_SHARE_DIR}/completions/brimo-settings
         DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions)
 install(FILES ${BRIMO_SHARE_DIR}/doc/copyright DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/brimo)
 
+# One version everywhere: the project's. The changelog's last entry must
+# name it, and the manual pages take it at build.
+file(STRINGS ${BRIMO_SHARE_DIR}/doc/changelog brimo_changelog_head LIMIT_COUNT 1)
+if(NOT brimo_changelog_head MATCHES "^brimo \\(${PROJECT_VERSION}\\) ")
+  message(FATAL_ERROR "share/doc/changelog does not start with version ${PROJECT_VERSION}: ${brimo_changelog_head}")
+endif()
+
 # The manual pages and the changelog go compressed, as Debian wants them.
 set(BRIMO_PACKED_DIR ${PROJECT_BINARY_DIR}/packed)
 set(BRIMO_PACKED)
 foreach(source man/Brimo2010.1 man/brimo-settings.1 doc/changelog)
   get_filename_component(name ${source} NAME)
+  configure_file(${BRIMO_SHARE_DIR}/${source} ${BRIMO_PACKED_DIR}/${name} @ONLY)
   add_custom_command(
     OUTPUT ${BRIMO_PACKED_DIR}/${name}.gz
-    COMMAND ${CMAKE_COMMAND} -E make_directory ${BRIMO_PACKED_DIR}
-    COMMAND gzip -9nc ${BRIMO_SHARE_DIR}/${source} > ${BRIMO_PACKED_DIR}/${name}.gz
-    DEPENDS ${BRIMO_SHARE_DIR}/${source}
+    COMMAND gzip -9nc ${BRIMO_PACKED_DIR}/${name} > ${BRIMO_PACKED_DIR}/${name}.gz
+    DEPENDS ${BRIMO_PACKED_DIR}/${name}
     VERBATIM)
   list(APPEND BRIMO_PACKED ${BRIMO_PACKED_DIR}/${name}.gz)
 endforeach()

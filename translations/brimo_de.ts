@@ -362,10 +362,6 @@ auflistet</translation>
         <translation>export nimmt genau ein FILE und höchstens ein --prefix</translation>
     </message>
     <message>
-        <source>history takes no argument</source>
-        <translation>history nimmt kein Argument</translation>
-    </message>
-    <message>
         <source>%1: %2: the stored text of %3 characters is cut to 254, as the dialog reads it</source>
         <translation>%1: %2: der gespeicherte Text mit %3 Zeichen wird auf 254 gekürzt, wie ihn der Dialog liest</translation>
     </message>
@@ -410,21 +406,8 @@ auflistet</translation>
         <translation>geändert %1, bereits so %2, fehlgeschlagen %3</translation>
     </message>
     <message>
-        <source>restore takes at most one entry number</source>
-        <translation>restore nimmt höchstens eine Eintragsnummer</translation>
-    </message>
-    <message>
         <source>%1: no entry number</source>
         <translation>%1: keine Eintragsnummer</translation>
-    </message>
-    <message>
-        <source>list the last 20 commits of the user&apos;s files (by the
-dialogs&apos; OK, set, apply, restore, heal): number,
-time, program, what, keys changed</source>
-        <translation>listet die letzten 20 Speichervorgänge der Dateien des
-Benutzers auf (durch das OK der Dialoge, set, apply,
-restore, heal): Nummer, Zeit, Programm, Vorgang,
-geänderte Schlüssel</translation>
     </message>
     <message>
         <source>set every key that the office standard gives or locks
@@ -488,6 +471,35 @@ change, write nothing</source>
     <message>
         <source>keys written out as the dialog shows them, none being stored: %1</source>
         <translation>Schlüssel, die wie im Dialog angezeigt geschrieben werden, da keiner gespeichert war: %1</translation>
+    </message>
+    <message>
+        <source>list the last 20 commits of the user&apos;s files (by the
+dialogs&apos; OK, set, apply, restore, heal): number,
+time, program, what, keys changed, who, run; show N:
+that entry with each key&apos;s old and new value</source>
+        <translation>listet die letzten 20 Speichervorgänge der Dateien des
+Benutzers auf (durch das OK der Dialoge, set, apply,
+restore, heal): Nummer, Zeit, Programm, Vorgang,
+geänderte Schlüssel, wer, Lauf; show N: dieser
+Eintrag mit altem und neuem Wert jedes Schlüssels</translation>
+    </message>
+    <message>
+        <source>restore: every prefix back to before that run of
+the tool (its id in the history)</source>
+        <translation>restore: jedes Präfix zurück auf den Stand vor
+diesem Lauf (seine Kennung im Verlauf)</translation>
+    </message>
+    <message>
+        <source>history takes no argument, or show N</source>
+        <translation>history nimmt kein Argument oder show N</translation>
+    </message>
+    <message>
+        <source>%1: commit %2 (%3) came after run %4; restore it first</source>
+        <translation>%1: Speichervorgang %2 (%3) kam nach Lauf %4; stellen Sie zuerst diesen wieder her</translation>
+    </message>
+    <message>
+        <source>restore takes at most one entry number, or --run ID</source>
+        <translation>restore nimmt höchstens eine Eintragsnummer oder --run ID</translation>
     </message>
 </context>
 <context>

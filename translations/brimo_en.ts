@@ -353,10 +353,6 @@ See brimo-settings(1).
         <translation>export takes one FILE, and at most one --prefix</translation>
     </message>
     <message>
-        <source>history takes no argument</source>
-        <translation>history takes no argument</translation>
-    </message>
-    <message>
         <source>%1: %2: the stored text of %3 characters is cut to 254, as the dialog reads it</source>
         <translation>%1: %2: the stored text of %3 characters is cut to 254, as the dialog reads it</translation>
     </message>
@@ -401,20 +397,8 @@ See brimo-settings(1).
         <translation>changed %1, already so %2, failed %3</translation>
     </message>
     <message>
-        <source>restore takes at most one entry number</source>
-        <translation>restore takes at most one entry number</translation>
-    </message>
-    <message>
         <source>%1: no entry number</source>
         <translation>%1: no entry number</translation>
-    </message>
-    <message>
-        <source>list the last 20 commits of the user&apos;s files (by the
-dialogs&apos; OK, set, apply, restore, heal): number,
-time, program, what, keys changed</source>
-        <translation>list the last 20 commits of the user&apos;s files (by the
-dialogs&apos; OK, set, apply, restore, heal): number,
-time, program, what, keys changed</translation>
     </message>
     <message>
         <source>set every key that the office standard gives or locks
@@ -477,6 +461,34 @@ change, write nothing</translation>
     <message>
         <source>keys written out as the dialog shows them, none being stored: %1</source>
         <translation>keys written out as the dialog shows them, none being stored: %1</translation>
+    </message>
+    <message>
+        <source>list the last 20 commits of the user&apos;s files (by the
+dialogs&apos; OK, set, apply, restore, heal): number,
+time, program, what, keys changed, who, run; show N:
+that entry with each key&apos;s old and new value</source>
+        <translation>list the last 20 commits of the user&apos;s files (by the
+dialogs&apos; OK, set, apply, restore, heal): number,
+time, program, what, keys changed, who, run; show N:
+that entry with each key&apos;s old and new value</translation>
+    </message>
+    <message>
+        <source>restore: every prefix back to before that run of
+the tool (its id in the history)</source>
+        <translation>restore: every prefix back to before that run of
+the tool (its id in the history)</translation>
+    </message>
+    <message>
+        <source>history takes no argument, or show N</source>
+        <translation>history takes no argument, or show N</translation>
+    </message>
+    <message>
+        <source>%1: commit %2 (%3) came after run %4; restore it first</source>
+        <translation>%1: commit %2 (%3) came after run %4; restore it first</translation>
+    </message>
+    <message>
+        <source>restore takes at most one entry number, or --run ID</source>
+        <translation>restore takes at most one entry number, or --run ID</translation>
     </message>
 </context>
 <context>

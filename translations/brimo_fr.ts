@@ -363,10 +363,6 @@ les liste</translation>
         <translation>export prend un seul FILE et au plus un --prefix</translation>
     </message>
     <message>
-        <source>history takes no argument</source>
-        <translation>history ne prend aucun argument</translation>
-    </message>
-    <message>
         <source>%1: %2: the stored text of %3 characters is cut to 254, as the dialog reads it</source>
         <translation>%1 : %2 : le texte enregistré de %3 caractères est coupé à 254, comme le lit la boîte de dialogue</translation>
     </message>
@@ -411,21 +407,8 @@ les liste</translation>
         <translation>modifiés %1, déjà ainsi %2, en échec %3</translation>
     </message>
     <message>
-        <source>restore takes at most one entry number</source>
-        <translation>restore prend au plus un numéro d&apos;entrée</translation>
-    </message>
-    <message>
         <source>%1: no entry number</source>
         <translation>%1 : pas un numéro d&apos;entrée</translation>
-    </message>
-    <message>
-        <source>list the last 20 commits of the user&apos;s files (by the
-dialogs&apos; OK, set, apply, restore, heal): number,
-time, program, what, keys changed</source>
-        <translation>liste les 20 derniers enregistrements des fichiers de
-l&apos;utilisateur (par l&apos;OK des boîtes de dialogue, set,
-apply, restore, heal) : numéro, heure, programme,
-action, clés modifiées</translation>
     </message>
     <message>
         <source>set every key that the office standard gives or locks
@@ -488,6 +471,36 @@ changerait, n&apos;écrit rien</translation>
     <message>
         <source>keys written out as the dialog shows them, none being stored: %1</source>
         <translation>clés écrites telles que la boîte de dialogue les affiche, aucune n&apos;étant enregistrée : %1</translation>
+    </message>
+    <message>
+        <source>list the last 20 commits of the user&apos;s files (by the
+dialogs&apos; OK, set, apply, restore, heal): number,
+time, program, what, keys changed, who, run; show N:
+that entry with each key&apos;s old and new value</source>
+        <translation>liste les 20 derniers enregistrements des fichiers de
+l&apos;utilisateur (par l&apos;OK des boîtes de dialogue, set,
+apply, restore, heal) : numéro, heure, programme,
+action, clés modifiées, qui, passage ; show N :
+cette entrée avec l&apos;ancienne et la nouvelle valeur
+de chaque clé</translation>
+    </message>
+    <message>
+        <source>restore: every prefix back to before that run of
+the tool (its id in the history)</source>
+        <translation>restore : chaque préfixe ramené à avant ce passage
+du programme (son identifiant dans l&apos;historique)</translation>
+    </message>
+    <message>
+        <source>history takes no argument, or show N</source>
+        <translation>history ne prend aucun argument, ou show N</translation>
+    </message>
+    <message>
+        <source>%1: commit %2 (%3) came after run %4; restore it first</source>
+        <translation>%1 : l&apos;enregistrement %2 (%3) a suivi le passage %4 ; rétablissez-le d&apos;abord</translation>
+    </message>
+    <message>
+        <source>restore takes at most one entry number, or --run ID</source>
+        <translation>restore prend au plus un numéro d&apos;entrée, ou --run ID</translation>
     </message>
 </context>
 <context>

@@ -362,10 +362,6 @@ elenca Qt</translation>
         <translation>export richiede un solo FILE e al massimo un --prefix</translation>
     </message>
     <message>
-        <source>history takes no argument</source>
-        <translation>history non accetta argomenti</translation>
-    </message>
-    <message>
         <source>%1: %2: the stored text of %3 characters is cut to 254, as the dialog reads it</source>
         <translation>%1: %2: il testo salvato di %3 caratteri è tagliato a 254, come lo legge la finestra</translation>
     </message>
@@ -410,20 +406,8 @@ elenca Qt</translation>
         <translation>modificati %1, già così %2, falliti %3</translation>
     </message>
     <message>
-        <source>restore takes at most one entry number</source>
-        <translation>restore accetta al massimo un numero di voce</translation>
-    </message>
-    <message>
         <source>%1: no entry number</source>
         <translation>%1: non è un numero di voce</translation>
-    </message>
-    <message>
-        <source>list the last 20 commits of the user&apos;s files (by the
-dialogs&apos; OK, set, apply, restore, heal): number,
-time, program, what, keys changed</source>
-        <translation>elenca gli ultimi 20 salvataggi dei file dell&apos;utente
-(dall&apos;OK delle finestre, set, apply, restore, heal):
-numero, ora, programma, azione, chiavi cambiate</translation>
     </message>
     <message>
         <source>set every key that the office standard gives or locks
@@ -486,6 +470,35 @@ cambierebbe, non scrive nulla</translation>
     <message>
         <source>keys written out as the dialog shows them, none being stored: %1</source>
         <translation>chiavi scritte come le mostra la finestra, nessuna essendo salvata: %1</translation>
+    </message>
+    <message>
+        <source>list the last 20 commits of the user&apos;s files (by the
+dialogs&apos; OK, set, apply, restore, heal): number,
+time, program, what, keys changed, who, run; show N:
+that entry with each key&apos;s old and new value</source>
+        <translation>elenca gli ultimi 20 salvataggi dei file dell&apos;utente
+(dall&apos;OK delle finestre, set, apply, restore, heal):
+numero, ora, programma, azione, chiavi cambiate, chi,
+esecuzione; show N: quella voce con il valore
+vecchio e nuovo di ogni chiave</translation>
+    </message>
+    <message>
+        <source>restore: every prefix back to before that run of
+the tool (its id in the history)</source>
+        <translation>restore: ogni prefisso riportato a prima di quella
+esecuzione (il suo identificativo nella cronologia)</translation>
+    </message>
+    <message>
+        <source>history takes no argument, or show N</source>
+        <translation>history non accetta argomenti, oppure show N</translation>
+    </message>
+    <message>
+        <source>%1: commit %2 (%3) came after run %4; restore it first</source>
+        <translation>%1: il salvataggio %2 (%3) è venuto dopo l&apos;esecuzione %4; ripristinate prima quello</translation>
+    </message>
+    <message>
+        <source>restore takes at most one entry number, or --run ID</source>
+        <translation>restore accetta al massimo un numero di voce, oppure --run ID</translation>
     </message>
 </context>
 <context>

@@ -14,11 +14,14 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QSysInfo>
+#include <QUuid>
 
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
 #include <cstdio>
+#include <pwd.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -51,7 +54,8 @@ QString partialFolder(const QString& history) {
 // The record of an entry, and whether each file it says existed stands in
 // the entry as a regular file; `damaged` says what is wrong.
 HistoryEntry readRecord(const QString& folder, int number) {
-    HistoryEntry entry{number, {}, {}, {}, {}, {}, {}};
+    HistoryEntry entry;
+    entry.number = number;
     Failure failure;
     const std::optional<QByteArray> bytes = ReadWholeFile(folder + QLatin1Char('/') + kEntryFile, &failure, false);
     if (!bytes) {
@@ -67,6 +71,15 @@ HistoryEntry readRecord(const QString& folder, int number) {
     entry.program = json.value(QLatin1String("program")).toString();
     entry.what = json.value(QLatin1String("what")).toString();
     for (const QJsonValue& key : json.value(QLatin1String("keys")).toArray()) entry.keys.append(key.toString());
+    entry.user = json.value(QLatin1String("user")).toString();
+    entry.sudoUser = json.value(QLatin1String("sudo_user")).toString();
+    entry.host = json.value(QLatin1String("host")).toString();
+    entry.run = json.value(QLatin1String("run")).toString();
+    for (const QJsonValue& value : json.value(QLatin1String("changes")).toArray()) {
+        const QJsonObject change = value.toObject();
+        entry.changes.append({change.value(QLatin1String("key")).toString(), change.value(QLatin1String("old")).toString(),
+                              change.value(QLatin1String("new")).toString()});
+    }
     for (const QJsonValue& value : json.value(QLatin1String("files")).toArray()) {
         const QJsonObject file = value.toObject();
         const QString name = file.value(QLatin1String("name")).toString();
@@ -88,11 +101,19 @@ QByteArray entryJson(const HistoryEntry& entry) {
     QJsonArray files;
     for (const KeptFile& file : entry.files)
         files.append(QJsonObject{{"name", file.name}, {"existed", file.existed}});
+    QJsonArray changes;
+    for (const KeyChange& change : entry.changes)
+        changes.append(QJsonObject{{"key", change.key}, {"old", change.before}, {"new", change.after}});
     return QJsonDocument(QJsonObject{{"when", entry.when.toString(Qt::ISODateWithMs)},
                                      {"program", entry.program},
                                      {"what", entry.what},
                                      {"keys", QJsonArray::fromStringList(entry.keys)},
-                                     {"files", files}})
+                                     {"files", files},
+                                     {"user", entry.user},
+                                     {"sudo_user", entry.sudoUser},
+                                     {"host", entry.host},
+                                     {"run", entry.run},
+                                     {"changes", changes}})
         .toJson();
 }
 
@@ -223,6 +244,31 @@ void RecoverHistory(const QString& nativeIni, bool tookEffect) {
 QString CommitProgramName() {
     const QString exe = QFileInfo(QStringLiteral("/proc/self/exe")).symLinkTarget();
     return exe.isEmpty() ? QStringLiteral("unknown") : QFileInfo(exe).fileName();
+}
+
+QString CommitRunId() {
+    static const QString run = QUuid::createUuid().toString(QUuid::WithoutBraces).left(8);
+    return run;
+}
+
+void StampHistoryEntry(HistoryEntry& entry) {
+    // The real user: run as root on a user's prefix, the tool writes as the
+    // prefix's owner, but root ran it.
+    const passwd* account = ::getpwuid(::getuid());
+    entry.user = account ? QString::fromLocal8Bit(account->pw_name) : QString::number(::getuid());
+    entry.sudoUser = qEnvironmentVariable("SUDO_USER");
+    entry.host = QSysInfo::machineHostName();
+    entry.run = CommitRunId();
+}
+
+QList<KeyChange> KeyChanges(const QByteArray& iniBefore, const QByteArray& iniAfter, const QStringList& keys) {
+    const ProfileDocument before(iniBefore), after(iniAfter);
+    QList<KeyChange> changes;
+    for (const QString& key : keys) {
+        const QByteArray section = toCp1252(key.section(QLatin1Char('/'), 0, 0)), name = toCp1252(key.section(QLatin1Char('/'), 1));
+        changes.append({key, fromCp1252(before.getString(section, name, 1 << 20)), fromCp1252(after.getString(section, name, 1 << 20))});
+    }
+    return changes;
 }
 
 QStringList ChangedKeys(const QByteArray& iniBefore, const QByteArray& iniAfter) {

@@ -36,6 +36,12 @@ struct KeptFile {
     std::optional<QByteArray> bytes; // only where read, and only when it existed
 };
 
+// A value of Brimo.ini before and after a commit ("" where there was none).
+struct KeyChange {
+    QString key; // "Section/key"
+    QString before, after;
+};
+
 struct HistoryEntry {
     int number = 0;
     QDateTime when;
@@ -44,6 +50,10 @@ struct HistoryEntry {
     QStringList keys; // "Section/key" of each value that the commit changed
     QList<KeptFile> files; // the files as they were before the commit
     QString damaged;       // why the entry cannot be brought back; empty when whole
+    // Who ran the program (and SUDO_USER, when set), on which host, in which
+    // run: one id for every commit of one run of a program, over every prefix.
+    QString user, sudoUser, host, run;
+    QList<KeyChange> changes; // each key's value before and after, in the order of `keys`
 };
 
 // The folder of the history of the Brimo.ini at `nativeIni`.
@@ -80,6 +90,15 @@ void RecoverHistory(const QString& nativeIni, bool tookEffect);
 // The name under which this process records its commits: the name of its
 // program file.
 QString CommitProgramName();
+
+// This run's id, the same for every commit this process makes.
+QString CommitRunId();
+
+// The user, SUDO_USER, host and run of this process, for a new entry.
+void StampHistoryEntry(HistoryEntry& entry);
+
+// The values of `keys` ("Section/key") in Brimo.ini before and after.
+QList<KeyChange> KeyChanges(const QByteArray& iniBefore, const QByteArray& iniAfter, const QStringList& keys);
 
 // "Section/key" of each key of the two sections whose value differs between
 // two versions of Brimo.ini.

@@ -63,12 +63,19 @@ QStringList foldersToLock(const QString& nativeIni) {
 // of a file that could not be written.
 CommitOutcome writeWithHistory(const QString& nativeIni, const QList<FileToWrite>& planned,
                                const QString& what, const QStringList& changedKeys) {
-    HistoryEntry entry{0, QDateTime::currentDateTimeUtc(), CommitProgramName(), what, changedKeys, {}, {}};
+    HistoryEntry entry;
+    entry.when = QDateTime::currentDateTimeUtc();
+    entry.program = CommitProgramName();
+    entry.what = what;
+    entry.keys = changedKeys;
+    StampHistoryEntry(entry);
     bool changes = false;
     for (const FileToWrite& file : planned) {
         const std::optional<QByteArray> before = ReadWholeFile(file.nativePath);
         changes = changes || before != file.bytes;
         entry.files.append({QFileInfo(file.nativePath).fileName(), before.has_value(), before});
+        if (file.nativePath == nativeIni)
+            entry.changes = KeyChanges(before.value_or(QByteArray()), file.bytes.value_or(QByteArray()), changedKeys);
     }
     changes = changes && !nativeIni.isEmpty(); // a Brimo.ini that names no folder here has no history
     Failure historyFailure;

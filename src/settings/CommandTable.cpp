@@ -19,14 +19,14 @@ const std::array<CommandRow, 9> kCommandTable = {{
     {"apply", "FILE",
      QT_TRANSLATE_NOOP("SettingsText", "set the keys of [Brimo_Gene] and [Brimo_Talus] of a\nprofile file; FILE \"-\" is the standard input"),
      "--json --check --detailed-exitcodes --prefix --prefixes-from --user", RunApply},
-    {"history", "",
+    {"history", "[show N]",
      QT_TRANSLATE_NOOP("SettingsText", "list the last 20 commits of the user's files (by the\ndialogs' OK, set, apply, restore, heal): number,\n"
-     "time, program, what, keys changed"),
+     "time, program, what, keys changed, who, run; show N:\nthat entry with each key's old and new value"),
      "--json --prefix --prefixes-from --user", RunHistory},
-    {"restore", "[N]",
+    {"restore", "[N | --run ID]",
      QT_TRANSLATE_NOOP("SettingsText", "bring back both files as they were before the last\ncommit, or before commit N of the history; recorded\n"
      "in the history in turn"),
-     "--json --check --detailed-exitcodes --prefix --prefixes-from --user", RunRestore},
+     "--json --check --detailed-exitcodes --run --prefix --prefixes-from --user", RunRestore},
     {"heal", "",
      QT_TRANSLATE_NOOP("SettingsText", "set every key that the office standard gives or locks\nto its value; with --check, report which users differ\n"
      "from it, and in which keys"),

@@ -35,6 +35,7 @@ constexpr OptionRow kOptions[] = {
     {"detailed-exitcodes", "", "", QT_TRANSLATE_NOOP("SettingsText", "exit statuses as Puppet's option of that name")},
     {"prefix", "", "DIR", QT_TRANSLATE_NOOP("SettingsText", "a Wine prefix in place of $WINEPREFIX (repeatable)")},
     {"prefixes-from", "", "FILE", QT_TRANSLATE_NOOP("SettingsText", "prefixes from FILE, one a line ('#' starts a comment)")},
+    {"run", "", "ID", QT_TRANSLATE_NOOP("SettingsText", "restore: every prefix back to before that run of\nthe tool (its id in the history)")},
     {"user", "", "NAME", QT_TRANSLATE_NOOP("SettingsText", "the user in place of [Users] actuel of zorel.ini")},
     {"help", "h", "", QT_TRANSLATE_NOOP("SettingsText", "this text")},
     {"help-all", "", "", QT_TRANSLATE_NOOP("SettingsText", "this text and every option as Qt lists them")},
@@ -98,6 +99,7 @@ std::optional<Options> ParseOptions(const QStringList& arguments, QString* error
     for (const QString& file : p.parser.values(QStringLiteral("prefixes-from")))
         if (!readPrefixList(file, options.prefixes, error)) return std::nullopt;
     if (p.isSet("user")) options.user = p.parser.value(QStringLiteral("user"));
+    options.run = p.parser.value(QStringLiteral("run"));
     if (p.isSet("dialog")) {
         const QString dialog = p.parser.value(QStringLiteral("dialog"));
         if (dialog == QLatin1String("general")) options.section = SettingSection::General;

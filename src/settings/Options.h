@@ -28,6 +28,7 @@ struct Options {
     bool helpAll = false;                 // --help-all: the usage and every option
     QStringList prefixes;                 // empty: the environment's
     std::optional<QString> user;
+    QString run;                          // restore --run: a run id of the history
     std::shared_ptr<const OfficeStandard> standard; // read by main, not a word of the command line
 };
 

@@ -82,6 +82,51 @@ QString shortList(const QStringList& keys) {
     return keys.mid(0, 5).join(QLatin1Char(' ')) + SettingsText::tr(" and %1 more").arg(keys.size() - 5);
 }
 
+// Who ran a commit: "root@host (sudo marie)".
+QString whoOf(const HistoryEntry& entry) {
+    if (entry.user.isEmpty()) return {}; // an entry of an older version
+    QString who = entry.user + QLatin1Char('@') + entry.host;
+    return entry.sudoUser.isEmpty() ? who : who + QStringLiteral(" (sudo %1)").arg(entry.sudoUser);
+}
+
+// One line an entry: number, time, program, what, keys, who, run.
+QString entryLine(const HistoryEntry& entry) {
+    if (!entry.damaged.isEmpty()) return QStringLiteral("%1\tdamaged\t%2\n").arg(entry.number).arg(Printable(entry.damaged));
+    return QStringLiteral("%1\t%2\t%3\t%4\t%5\t%6\t%7\n")
+        .arg(entry.number)
+        .arg(entry.when.toLocalTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")), Printable(entry.program),
+             Printable(entry.what), Printable(shortList(entry.keys)), Printable(whoOf(entry)), Printable(entry.run));
+}
+
+// An entry whole: its line, then each key with its value before and after.
+QString entryText(const HistoryEntry& entry) {
+    QString text = entryLine(entry);
+    for (const KeyChange& change : entry.changes)
+        text += QStringLiteral("  %1: \"%2\" -> \"%3\"\n").arg(Printable(change.key), Printable(change.before), Printable(change.after));
+    return text;
+}
+
+QJsonObject entryJson(const HistoryEntry& entry) {
+    QStringList files;
+    for (const KeptFile& file : entry.files) files.append(file.name);
+    QJsonArray changes;
+    for (const KeyChange& change : entry.changes)
+        changes.append(QJsonObject{{"key", change.key}, {"old", change.before}, {"new", change.after}});
+    QJsonObject json{{"number", entry.number},
+                     {"when", entry.when.toString(Qt::ISODate)},
+                     {"program", entry.program},
+                     {"what", entry.what},
+                     {"keys", QJsonArray::fromStringList(entry.keys)},
+                     {"changes", changes},
+                     {"files", QJsonArray::fromStringList(files)},
+                     {"user", entry.user},
+                     {"sudo_user", entry.sudoUser},
+                     {"host", entry.host},
+                     {"run", entry.run}};
+    if (!entry.damaged.isEmpty()) json.insert(QStringLiteral("damaged"), entry.damaged);
+    return json;
+}
+
 } // namespace
 
 RunResult RunGet(const Options& options) {
@@ -154,8 +199,12 @@ RunResult RunExport(const Options& options) {
 }
 
 RunResult RunHistory(const Options& options) {
-    if (!options.arguments.isEmpty()) {
-        Complain(SettingsText::tr("history takes no argument"));
+    // "history" lists; "history show N" tells one entry whole.
+    const bool show = !options.arguments.isEmpty() && options.arguments.first() == QLatin1String("show");
+    int number = 0;
+    if (show && options.arguments.size() == 2) number = options.arguments[1].toInt();
+    if ((show && number <= 0) || (!show && !options.arguments.isEmpty())) {
+        Complain(SettingsText::tr("history takes no argument, or show N"));
         return {true};
     }
     QJsonArray json;
@@ -165,30 +214,21 @@ RunResult RunHistory(const Options& options) {
         // Without zorel.ini the user's folder is unknown: an empty history would
         // pass for the user's.
         if (!readable(user, user.zorelIniError())) return false;
-        const QList<HistoryEntry> history = ReadHistory(user.lock().nativeIniPath());
+        QList<HistoryEntry> history = ReadHistory(user.lock().nativeIniPath());
+        if (show) {
+            erase_if(history, [&](const HistoryEntry& entry) { return entry.number != number; });
+            if (history.isEmpty()) {
+                Complain(QStringLiteral("%1: %2").arg(prefix, QCoreApplication::translate("History", "no entry %1").arg(number)));
+                return false;
+            }
+        }
         if (!options.json) {
             if (options.prefixes.size() > 1) Print(QStringLiteral("# %1\n").arg(Printable(prefix)));
-            for (const HistoryEntry& entry : history)
-                Print(!entry.damaged.isEmpty() ? QStringLiteral("%1\tdamaged\t%2\n").arg(entry.number).arg(Printable(entry.damaged))
-                                              : QStringLiteral("%1\t%2\t%3\t%4\t%5\n")
-                          .arg(entry.number)
-                          .arg(entry.when.toLocalTime().toString(QStringLiteral("yyyy-MM-dd HH:mm:ss")),
-                               Printable(entry.program), Printable(entry.what), Printable(shortList(entry.keys))));
+            for (const HistoryEntry& entry : history) Print(show ? entryText(entry) : entryLine(entry));
             return true;
         }
         QJsonArray entries;
-        for (const HistoryEntry& entry : history) {
-            QStringList files;
-            for (const KeptFile& file : entry.files) files.append(file.name);
-            QJsonObject json{{"number", entry.number},
-                             {"when", entry.when.toString(Qt::ISODate)},
-                             {"program", entry.program},
-                             {"what", entry.what},
-                             {"keys", QJsonArray::fromStringList(entry.keys)},
-                             {"files", QJsonArray::fromStringList(files)}};
-            if (!entry.damaged.isEmpty()) json.insert(QStringLiteral("damaged"), entry.damaged);
-            entries.append(json);
-        }
+        for (const HistoryEntry& entry : history) entries.append(entryJson(entry));
         json.append(QJsonObject{{"prefix", prefix}, {"user", user.info().actuel}, {"entries", entries}});
         return true;
     });

@@ -241,6 +241,23 @@ PrefixReport restoreOnPrefix(const Options& options, int number, const WinePrefi
     const UserFiles user(prefix, options.user, options.standard);
     PrefixReport report{prefix.name(), user.info().actuel, false, {}, {}, {}};
     const QString nativeIni = user.lock().nativeIniPath();
+    // --run: back to before the first commit of that run here; a prefix that
+    // it did not touch is already so, and one where a later commit stands on
+    // top of it is refused, naming that commit.
+    if (!options.run.isEmpty()) {
+        const QList<HistoryEntry> history = ReadHistory(nativeIni);
+        const auto first = std::find_if(history.begin(), history.end(), [&](const HistoryEntry& e) { return e.run == options.run; });
+        if (first == history.end()) return report;
+        for (auto later = first; later != history.end(); ++later)
+            if (later->run != options.run) {
+                report.error = SettingsText::tr("%1: commit %2 (%3) came after run %4; restore it first")
+                                   .arg(HistoryFolder(nativeIni))
+                                   .arg(later->number)
+                                   .arg(later->what, options.run);
+                return report;
+            }
+        number = first->number;
+    }
     QString error;
     const std::optional<HistoryEntry> entry = ReadHistoryEntry(nativeIni, number, &error);
     if (!entry) {
@@ -324,7 +341,8 @@ RunResult RunHeal(const Options& options) {
 RunResult RunRestore(const Options& options) {
     QStringList refusals;
     int number = 0;
-    if (options.arguments.size() > 1) refuse(SettingsText::tr("restore takes at most one entry number"), refusals);
+    if (options.arguments.size() > 1 || (!options.run.isEmpty() && !options.arguments.isEmpty()))
+        refuse(SettingsText::tr("restore takes at most one entry number, or --run ID"), refusals);
     else if (options.arguments.size() == 1) {
         bool ok = false;
         number = options.arguments.first().toInt(&ok);
