@@ -8,6 +8,7 @@
 #   share/icons/hicolor/scalable/apps/brimo.svg
 #   share/metainfo/org.example.brimo.metainfo.xml
 #   share/bash-completion/completions/brimo-settings
+#   share/brimo/ansible/library/brimo_settings.py   the Ansible module
 #   share/man/man1/Brimo2010.1.gz, brimo-settings.1.gz
 #   share/doc/brimo/changelog.gz, copyright
 #
@@ -31,6 +32,8 @@ install(FILES ${BRIMO_SHARE_DIR}/metainfo/org.example.brimo.metainfo.xml
 install(FILES ${BRIMO_SHARE_DIR}/completions/brimo-settings
         DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions)
 install(FILES ${BRIMO_SHARE_DIR}/doc/copyright DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/brimo)
+install(PROGRAMS ${PROJECT_SOURCE_DIR}/contrib/ansible/library/brimo_settings.py
+        DESTINATION ${CMAKE_INSTALL_DATADIR}/brimo/ansible/library)
 
 # One version everywhere: the project's. The changelog's last entry must
 # name it, and the manual pages take it at build.

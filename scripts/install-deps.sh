@@ -9,7 +9,7 @@ packages=(
   libgtest-dev libgmock-dev libbenchmark-dev
   xvfb xauth xdotool x11-utils imagemagick fonts-dejavu-core fonts-liberation
   python3
-  lintian appstream desktop-file-utils bash-completion
+  lintian appstream desktop-file-utils bash-completion ansible-core
 )
 
 missing=()
