@@ -32,7 +32,7 @@ install(FILES ${BRIMO_SHARE_DIR}/metainfo/org.example.brimo.metainfo.xml
 install(FILES ${BRIMO_SHARE_DIR}/completions/brimo-settings
         DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions)
 install(FILES ${BRIMO_SHARE_DIR}/doc/copyright DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/brimo)
-install(PROGRAMS ${PROJECT_SOURCE_DIR}/contrib/ansible/library/brimo_settings.py
+install(FILES ${PROJECT_SOURCE_DIR}/contrib/ansible/library/brimo_settings.py
         DESTINATION ${CMAKE_INSTALL_DATADIR}/brimo/ansible/library)
 
 # One version everywhere: the project's. The changelog's last entry must

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Validates what the package ships: the .desktop entry, the AppStream
-# metainfo, and the built .deb under lintian (errors fail, warnings do not).
+# metainfo, and the built .deb under lintian (errors and warnings fail).
 # Skips (77) when the validator is not installed.
 # Usage: validate.sh desktop|metainfo|lintian SOURCE_DIR BUILD_DIR
 set -euo pipefail
@@ -28,5 +28,5 @@ case $what in
     out=$(mktemp -d)
     trap 'rm -rf "$out"' EXIT
     (cd "$build" && cpack -B "$out" >/dev/null)
-    lintian --fail-on error --no-tag-display-limit "$out"/*.deb ;;
+    lintian --fail-on error,warning --tag-display-limit 0 "$out"/*.deb ;;
 esac

@@ -1,4 +1,3 @@
-#!/usr/bin/python
 # The settings of Brimo's dialogs on users' Wine prefixes, through
 # brimo-settings --json (nothing is read from its text).
 
