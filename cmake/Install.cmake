@@ -45,9 +45,18 @@ endif()
 # The manual pages and the changelog go compressed, as Debian wants them.
 set(BRIMO_PACKED_DIR ${PROJECT_BINARY_DIR}/packed)
 set(BRIMO_PACKED)
+# brimo-settings(1) lists the keys that the tool itself lists (brimo-settings keys).
+add_custom_command(
+  OUTPUT ${BRIMO_PACKED_DIR}/brimo-settings.1
+  COMMAND python3 ${PROJECT_SOURCE_DIR}/scripts/man-keys.py ${BRIMO_SHARE_DIR}/man/brimo-settings.1
+          $<TARGET_FILE:brimo-settings> ${PROJECT_VERSION} ${BRIMO_PACKED_DIR}/brimo-settings.1
+  DEPENDS ${BRIMO_SHARE_DIR}/man/brimo-settings.1 ${PROJECT_SOURCE_DIR}/scripts/man-keys.py brimo-settings
+  VERBATIM)
 foreach(source man/Brimo2010.1 man/brimo-settings.1 doc/changelog)
   get_filename_component(name ${source} NAME)
-  configure_file(${BRIMO_SHARE_DIR}/${source} ${BRIMO_PACKED_DIR}/${name} @ONLY)
+  if(NOT name STREQUAL "brimo-settings.1")
+    configure_file(${BRIMO_SHARE_DIR}/${source} ${BRIMO_PACKED_DIR}/${name} @ONLY)
+  endif()
   add_custom_command(
     OUTPUT ${BRIMO_PACKED_DIR}/${name}.gz
     COMMAND gzip -9nc ${BRIMO_PACKED_DIR}/${name} > ${BRIMO_PACKED_DIR}/${name}.gz

@@ -127,6 +127,245 @@
     </message>
 </context>
 <context>
+    <name>KeyMeaning</name>
+    <message>
+        <source>width of the user-sized frame, mm</source>
+        <translation>Breite des Rahmens in Benutzergröße, mm</translation>
+    </message>
+    <message>
+        <source>length of the user-sized frame, mm</source>
+        <translation>Länge des Rahmens in Benutzergröße, mm</translation>
+    </message>
+    <message>
+        <source>colour number of the double frame</source>
+        <translation>Farbnummer des Doppelrahmens</translation>
+    </message>
+    <message>
+        <source>offset of the double frame, mm on paper</source>
+        <translation>Versatz des Doppelrahmens, mm auf dem Papier</translation>
+    </message>
+    <message>
+        <source>layer name of the frame</source>
+        <translation>Layername des Rahmens</translation>
+    </message>
+    <message>
+        <source>default unit in model space: 0 mm, 1 cm, 2 m</source>
+        <translation>Standardeinheit im Modellbereich: 0 mm, 1 cm, 2 m</translation>
+    </message>
+    <message>
+        <source>default unit in paper space: 0 mm, 1 cm, 2 m</source>
+        <translation>Standardeinheit im Papierbereich: 0 mm, 1 cm, 2 m</translation>
+    </message>
+    <message>
+        <source>slant of the text styles, degrees</source>
+        <translation>Neigung der Textstile, Grad</translation>
+    </message>
+    <message>
+        <source>compression of the text styles</source>
+        <translation>Stauchung der Textstile</translation>
+    </message>
+    <message>
+        <source>height of style GC1, mm on paper</source>
+        <translation>Höhe des Stils GC1, mm auf dem Papier</translation>
+    </message>
+    <message>
+        <source>height of style GC2</source>
+        <translation>Höhe des Stils GC2</translation>
+    </message>
+    <message>
+        <source>height of style GC3</source>
+        <translation>Höhe des Stils GC3</translation>
+    </message>
+    <message>
+        <source>height of style GC4</source>
+        <translation>Höhe des Stils GC4</translation>
+    </message>
+    <message>
+        <source>height of style GC5</source>
+        <translation>Höhe des Stils GC5</translation>
+    </message>
+    <message>
+        <source>height of style GC7</source>
+        <translation>Höhe des Stils GC7</translation>
+    </message>
+    <message>
+        <source>height of style GC10</source>
+        <translation>Höhe des Stils GC10</translation>
+    </message>
+    <message>
+        <source>height of style GC15</source>
+        <translation>Höhe des Stils GC15</translation>
+    </message>
+    <message>
+        <source>text height of the dimension style GCC</source>
+        <translation>Texthöhe des Bemaßungsstils GCC</translation>
+    </message>
+    <message>
+        <source>colour of the dimension style GCC</source>
+        <translation>Farbe des Bemaßungsstils GCC</translation>
+    </message>
+    <message>
+        <source>layer to use after the command: 0 the GC layers, 1 the current layer</source>
+        <translation>Layer nach dem Befehl: 0 die GC-Layer, 1 der aktuelle Layer</translation>
+    </message>
+    <message>
+        <source>name of the office</source>
+        <translation>Name des Büros</translation>
+    </message>
+    <message>
+        <source>address of the office</source>
+        <translation>Anschrift des Büros</translation>
+    </message>
+    <message>
+        <source>postal code of the office</source>
+        <translation>Postleitzahl des Büros</translation>
+    </message>
+    <message>
+        <source>town of the office</source>
+        <translation>Ort des Büros</translation>
+    </message>
+    <message>
+        <source>telephone number of the office</source>
+        <translation>Telefonnummer des Büros</translation>
+    </message>
+    <message>
+        <source>fax number of the office</source>
+        <translation>Faxnummer des Büros</translation>
+    </message>
+    <message>
+        <source>font of style GC1</source>
+        <translation>Schrift des Stils GC1</translation>
+    </message>
+    <message>
+        <source>font of style GC2</source>
+        <translation>Schrift des Stils GC2</translation>
+    </message>
+    <message>
+        <source>font of style GC3</source>
+        <translation>Schrift des Stils GC3</translation>
+    </message>
+    <message>
+        <source>font of style GC4</source>
+        <translation>Schrift des Stils GC4</translation>
+    </message>
+    <message>
+        <source>font of style GC5</source>
+        <translation>Schrift des Stils GC5</translation>
+    </message>
+    <message>
+        <source>font of style GC7</source>
+        <translation>Schrift des Stils GC7</translation>
+    </message>
+    <message>
+        <source>font of style GC10</source>
+        <translation>Schrift des Stils GC10</translation>
+    </message>
+    <message>
+        <source>font of style GC15</source>
+        <translation>Schrift des Stils GC15</translation>
+    </message>
+    <message>
+        <source>font of the dimension style</source>
+        <translation>Schrift des Bemaßungsstils</translation>
+    </message>
+    <message>
+        <source>AutoCAD command after a style is chosen: 0 none, 1 one-line text, 2 dynamic text, 3 paragraph text</source>
+        <translation>AutoCAD-Befehl nach der Wahl eines Stils: 0 keiner, 1 einzeiliger Text, 2 dynamischer Text, 3 Absatztext</translation>
+    </message>
+    <message>
+        <source>language of the add-on: FRA, ENG, DEU, ITA</source>
+        <translation>Sprache der Erweiterung: FRA, ENG, DEU, ITA</translation>
+    </message>
+    <message>
+        <source>show the add-on&apos;s logo while modules load</source>
+        <translation>das Logo der Erweiterung beim Laden der Module zeigen</translation>
+    </message>
+    <message>
+        <source>show the user profile of the drawing</source>
+        <translation>das Benutzerprofil der Zeichnung zeigen</translation>
+    </message>
+    <message>
+        <source>default colour of Zmult 1:10</source>
+        <translation>Standardfarbe von Zmult 1:10</translation>
+    </message>
+    <message>
+        <source>default colour of Zmult 1:20</source>
+        <translation>Standardfarbe von Zmult 1:20</translation>
+    </message>
+    <message>
+        <source>default colour of Zmult 1:50</source>
+        <translation>Standardfarbe von Zmult 1:50</translation>
+    </message>
+    <message>
+        <source>default colour of Zmult 1:100</source>
+        <translation>Standardfarbe von Zmult 1:100</translation>
+    </message>
+    <message>
+        <source>default colour of Zmult 1:200</source>
+        <translation>Standardfarbe von Zmult 1:200</translation>
+    </message>
+    <message>
+        <source>default colour of Zmult 1:500</source>
+        <translation>Standardfarbe von Zmult 1:500</translation>
+    </message>
+    <message>
+        <source>path of the Windows explorer</source>
+        <translation>Pfad des Windows-Explorers</translation>
+    </message>
+    <message>
+        <source>path of the calculator</source>
+        <translation>Pfad des Rechners</translation>
+    </message>
+    <message>
+        <source>path of the WordPad editor</source>
+        <translation>Pfad des Editors WordPad</translation>
+    </message>
+    <message>
+        <source>path of the notepad</source>
+        <translation>Pfad des Notepad-Editors</translation>
+    </message>
+    <message>
+        <source>path of Acrobat Reader</source>
+        <translation>Pfad von Acrobat Reader</translation>
+    </message>
+    <message>
+        <source>path of a personal program</source>
+        <translation>Pfad eines eigenen Programms</translation>
+    </message>
+    <message>
+        <source>drawing of the result: polyligne (a polyline) or points</source>
+        <translation>Zeichnung des Ergebnisses: polyligne (Polylinie) oder points (Punkte)</translation>
+    </message>
+    <message>
+        <source>drawing of the slope: 2 (2D) or 3 (3D)</source>
+        <translation>Zeichnung der Böschung: 2 (2D) oder 3 (3D)</translation>
+    </message>
+    <message>
+        <source>horizontal distance of the slope</source>
+        <translation>horizontaler Abstand der Böschung</translation>
+    </message>
+    <message>
+        <source>vertical distance of the slope</source>
+        <translation>vertikaler Abstand der Böschung</translation>
+    </message>
+    <message>
+        <source>initial search length, m</source>
+        <translation>anfängliche Suchlänge, m</translation>
+    </message>
+    <message>
+        <source>number of searches over 360 degrees</source>
+        <translation>Anzahl der Suchen über 360 Grad</translation>
+    </message>
+    <message>
+        <source>spacing between the searches</source>
+        <translation>Abstand zwischen den Suchen</translation>
+    </message>
+    <message>
+        <source>scale factor of the direction arrows</source>
+        <translation>Maßstabsfaktor der Richtungspfeile</translation>
+    </message>
+</context>
+<context>
     <name>OfficeStandard</name>
     <message>
         <source>The office standard (%1) fixes this value.</source>
@@ -500,6 +739,17 @@ diesem Lauf (seine Kennung im Verlauf)</translation>
     <message>
         <source>restore takes at most one entry number, or --run ID</source>
         <translation>restore nimmt höchstens eine Eintragsnummer oder --run ID</translation>
+    </message>
+    <message>
+        <source>list every key of both dialogs: dialog, key, Lisp
+name, type, default, choices, office value, meaning</source>
+        <translation>listet jeden Schlüssel beider Dialoge auf: Dialog,
+Schlüssel, Lisp-Name, Typ, Vorgabe, Auswahl,
+Bürowert, Bedeutung</translation>
+    </message>
+    <message>
+        <source>keys takes no argument</source>
+        <translation>keys nimmt kein Argument</translation>
     </message>
 </context>
 <context>

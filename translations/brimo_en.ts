@@ -127,6 +127,245 @@
     </message>
 </context>
 <context>
+    <name>KeyMeaning</name>
+    <message>
+        <source>width of the user-sized frame, mm</source>
+        <translation>width of the user-sized frame, mm</translation>
+    </message>
+    <message>
+        <source>length of the user-sized frame, mm</source>
+        <translation>length of the user-sized frame, mm</translation>
+    </message>
+    <message>
+        <source>colour number of the double frame</source>
+        <translation>colour number of the double frame</translation>
+    </message>
+    <message>
+        <source>offset of the double frame, mm on paper</source>
+        <translation>offset of the double frame, mm on paper</translation>
+    </message>
+    <message>
+        <source>layer name of the frame</source>
+        <translation>layer name of the frame</translation>
+    </message>
+    <message>
+        <source>default unit in model space: 0 mm, 1 cm, 2 m</source>
+        <translation>default unit in model space: 0 mm, 1 cm, 2 m</translation>
+    </message>
+    <message>
+        <source>default unit in paper space: 0 mm, 1 cm, 2 m</source>
+        <translation>default unit in paper space: 0 mm, 1 cm, 2 m</translation>
+    </message>
+    <message>
+        <source>slant of the text styles, degrees</source>
+        <translation>slant of the text styles, degrees</translation>
+    </message>
+    <message>
+        <source>compression of the text styles</source>
+        <translation>compression of the text styles</translation>
+    </message>
+    <message>
+        <source>height of style GC1, mm on paper</source>
+        <translation>height of style GC1, mm on paper</translation>
+    </message>
+    <message>
+        <source>height of style GC2</source>
+        <translation>height of style GC2</translation>
+    </message>
+    <message>
+        <source>height of style GC3</source>
+        <translation>height of style GC3</translation>
+    </message>
+    <message>
+        <source>height of style GC4</source>
+        <translation>height of style GC4</translation>
+    </message>
+    <message>
+        <source>height of style GC5</source>
+        <translation>height of style GC5</translation>
+    </message>
+    <message>
+        <source>height of style GC7</source>
+        <translation>height of style GC7</translation>
+    </message>
+    <message>
+        <source>height of style GC10</source>
+        <translation>height of style GC10</translation>
+    </message>
+    <message>
+        <source>height of style GC15</source>
+        <translation>height of style GC15</translation>
+    </message>
+    <message>
+        <source>text height of the dimension style GCC</source>
+        <translation>text height of the dimension style GCC</translation>
+    </message>
+    <message>
+        <source>colour of the dimension style GCC</source>
+        <translation>colour of the dimension style GCC</translation>
+    </message>
+    <message>
+        <source>layer to use after the command: 0 the GC layers, 1 the current layer</source>
+        <translation>layer to use after the command: 0 the GC layers, 1 the current layer</translation>
+    </message>
+    <message>
+        <source>name of the office</source>
+        <translation>name of the office</translation>
+    </message>
+    <message>
+        <source>address of the office</source>
+        <translation>address of the office</translation>
+    </message>
+    <message>
+        <source>postal code of the office</source>
+        <translation>postal code of the office</translation>
+    </message>
+    <message>
+        <source>town of the office</source>
+        <translation>town of the office</translation>
+    </message>
+    <message>
+        <source>telephone number of the office</source>
+        <translation>telephone number of the office</translation>
+    </message>
+    <message>
+        <source>fax number of the office</source>
+        <translation>fax number of the office</translation>
+    </message>
+    <message>
+        <source>font of style GC1</source>
+        <translation>font of style GC1</translation>
+    </message>
+    <message>
+        <source>font of style GC2</source>
+        <translation>font of style GC2</translation>
+    </message>
+    <message>
+        <source>font of style GC3</source>
+        <translation>font of style GC3</translation>
+    </message>
+    <message>
+        <source>font of style GC4</source>
+        <translation>font of style GC4</translation>
+    </message>
+    <message>
+        <source>font of style GC5</source>
+        <translation>font of style GC5</translation>
+    </message>
+    <message>
+        <source>font of style GC7</source>
+        <translation>font of style GC7</translation>
+    </message>
+    <message>
+        <source>font of style GC10</source>
+        <translation>font of style GC10</translation>
+    </message>
+    <message>
+        <source>font of style GC15</source>
+        <translation>font of style GC15</translation>
+    </message>
+    <message>
+        <source>font of the dimension style</source>
+        <translation>font of the dimension style</translation>
+    </message>
+    <message>
+        <source>AutoCAD command after a style is chosen: 0 none, 1 one-line text, 2 dynamic text, 3 paragraph text</source>
+        <translation>AutoCAD command after a style is chosen: 0 none, 1 one-line text, 2 dynamic text, 3 paragraph text</translation>
+    </message>
+    <message>
+        <source>language of the add-on: FRA, ENG, DEU, ITA</source>
+        <translation>language of the add-on: FRA, ENG, DEU, ITA</translation>
+    </message>
+    <message>
+        <source>show the add-on&apos;s logo while modules load</source>
+        <translation>show the add-on&apos;s logo while modules load</translation>
+    </message>
+    <message>
+        <source>show the user profile of the drawing</source>
+        <translation>show the user profile of the drawing</translation>
+    </message>
+    <message>
+        <source>default colour of Zmult 1:10</source>
+        <translation>default colour of Zmult 1:10</translation>
+    </message>
+    <message>
+        <source>default colour of Zmult 1:20</source>
+        <translation>default colour of Zmult 1:20</translation>
+    </message>
+    <message>
+        <source>default colour of Zmult 1:50</source>
+        <translation>default colour of Zmult 1:50</translation>
+    </message>
+    <message>
+        <source>default colour of Zmult 1:100</source>
+        <translation>default colour of Zmult 1:100</translation>
+    </message>
+    <message>
+        <source>default colour of Zmult 1:200</source>
+        <translation>default colour of Zmult 1:200</translation>
+    </message>
+    <message>
+        <source>default colour of Zmult 1:500</source>
+        <translation>default colour of Zmult 1:500</translation>
+    </message>
+    <message>
+        <source>path of the Windows explorer</source>
+        <translation>path of the Windows explorer</translation>
+    </message>
+    <message>
+        <source>path of the calculator</source>
+        <translation>path of the calculator</translation>
+    </message>
+    <message>
+        <source>path of the WordPad editor</source>
+        <translation>path of the WordPad editor</translation>
+    </message>
+    <message>
+        <source>path of the notepad</source>
+        <translation>path of the notepad</translation>
+    </message>
+    <message>
+        <source>path of Acrobat Reader</source>
+        <translation>path of Acrobat Reader</translation>
+    </message>
+    <message>
+        <source>path of a personal program</source>
+        <translation>path of a personal program</translation>
+    </message>
+    <message>
+        <source>drawing of the result: polyligne (a polyline) or points</source>
+        <translation>drawing of the result: polyligne (a polyline) or points</translation>
+    </message>
+    <message>
+        <source>drawing of the slope: 2 (2D) or 3 (3D)</source>
+        <translation>drawing of the slope: 2 (2D) or 3 (3D)</translation>
+    </message>
+    <message>
+        <source>horizontal distance of the slope</source>
+        <translation>horizontal distance of the slope</translation>
+    </message>
+    <message>
+        <source>vertical distance of the slope</source>
+        <translation>vertical distance of the slope</translation>
+    </message>
+    <message>
+        <source>initial search length, m</source>
+        <translation>initial search length, m</translation>
+    </message>
+    <message>
+        <source>number of searches over 360 degrees</source>
+        <translation>number of searches over 360 degrees</translation>
+    </message>
+    <message>
+        <source>spacing between the searches</source>
+        <translation>spacing between the searches</translation>
+    </message>
+    <message>
+        <source>scale factor of the direction arrows</source>
+        <translation>scale factor of the direction arrows</translation>
+    </message>
+</context>
+<context>
     <name>OfficeStandard</name>
     <message>
         <source>The office standard (%1) fixes this value.</source>
@@ -489,6 +728,16 @@ the tool (its id in the history)</translation>
     <message>
         <source>restore takes at most one entry number, or --run ID</source>
         <translation>restore takes at most one entry number, or --run ID</translation>
+    </message>
+    <message>
+        <source>list every key of both dialogs: dialog, key, Lisp
+name, type, default, choices, office value, meaning</source>
+        <translation>list every key of both dialogs: dialog, key, Lisp
+name, type, default, choices, office value, meaning</translation>
+    </message>
+    <message>
+        <source>keys takes no argument</source>
+        <translation>keys takes no argument</translation>
     </message>
 </context>
 <context>

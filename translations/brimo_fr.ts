@@ -127,6 +127,245 @@
     </message>
 </context>
 <context>
+    <name>KeyMeaning</name>
+    <message>
+        <source>width of the user-sized frame, mm</source>
+        <translation>largeur du cadre à la taille de l&apos;utilisateur, en mm</translation>
+    </message>
+    <message>
+        <source>length of the user-sized frame, mm</source>
+        <translation>longueur du cadre à la taille de l&apos;utilisateur, en mm</translation>
+    </message>
+    <message>
+        <source>colour number of the double frame</source>
+        <translation>numéro de couleur du double cadre</translation>
+    </message>
+    <message>
+        <source>offset of the double frame, mm on paper</source>
+        <translation>décalage du double cadre, en mm sur le papier</translation>
+    </message>
+    <message>
+        <source>layer name of the frame</source>
+        <translation>nom du calque du cadre</translation>
+    </message>
+    <message>
+        <source>default unit in model space: 0 mm, 1 cm, 2 m</source>
+        <translation>unité par défaut dans l&apos;espace objet : 0 mm, 1 cm, 2 m</translation>
+    </message>
+    <message>
+        <source>default unit in paper space: 0 mm, 1 cm, 2 m</source>
+        <translation>unité par défaut dans l&apos;espace papier : 0 mm, 1 cm, 2 m</translation>
+    </message>
+    <message>
+        <source>slant of the text styles, degrees</source>
+        <translation>inclinaison des styles de texte, en degrés</translation>
+    </message>
+    <message>
+        <source>compression of the text styles</source>
+        <translation>compression des styles de texte</translation>
+    </message>
+    <message>
+        <source>height of style GC1, mm on paper</source>
+        <translation>hauteur du style GC1, en mm sur le papier</translation>
+    </message>
+    <message>
+        <source>height of style GC2</source>
+        <translation>hauteur du style GC2</translation>
+    </message>
+    <message>
+        <source>height of style GC3</source>
+        <translation>hauteur du style GC3</translation>
+    </message>
+    <message>
+        <source>height of style GC4</source>
+        <translation>hauteur du style GC4</translation>
+    </message>
+    <message>
+        <source>height of style GC5</source>
+        <translation>hauteur du style GC5</translation>
+    </message>
+    <message>
+        <source>height of style GC7</source>
+        <translation>hauteur du style GC7</translation>
+    </message>
+    <message>
+        <source>height of style GC10</source>
+        <translation>hauteur du style GC10</translation>
+    </message>
+    <message>
+        <source>height of style GC15</source>
+        <translation>hauteur du style GC15</translation>
+    </message>
+    <message>
+        <source>text height of the dimension style GCC</source>
+        <translation>hauteur de texte du style de cote GCC</translation>
+    </message>
+    <message>
+        <source>colour of the dimension style GCC</source>
+        <translation>couleur du style de cote GCC</translation>
+    </message>
+    <message>
+        <source>layer to use after the command: 0 the GC layers, 1 the current layer</source>
+        <translation>calque à utiliser après la commande : 0 les calques GC, 1 le calque courant</translation>
+    </message>
+    <message>
+        <source>name of the office</source>
+        <translation>nom du bureau</translation>
+    </message>
+    <message>
+        <source>address of the office</source>
+        <translation>adresse du bureau</translation>
+    </message>
+    <message>
+        <source>postal code of the office</source>
+        <translation>code postal du bureau</translation>
+    </message>
+    <message>
+        <source>town of the office</source>
+        <translation>ville du bureau</translation>
+    </message>
+    <message>
+        <source>telephone number of the office</source>
+        <translation>numéro de téléphone du bureau</translation>
+    </message>
+    <message>
+        <source>fax number of the office</source>
+        <translation>numéro de fax du bureau</translation>
+    </message>
+    <message>
+        <source>font of style GC1</source>
+        <translation>police du style GC1</translation>
+    </message>
+    <message>
+        <source>font of style GC2</source>
+        <translation>police du style GC2</translation>
+    </message>
+    <message>
+        <source>font of style GC3</source>
+        <translation>police du style GC3</translation>
+    </message>
+    <message>
+        <source>font of style GC4</source>
+        <translation>police du style GC4</translation>
+    </message>
+    <message>
+        <source>font of style GC5</source>
+        <translation>police du style GC5</translation>
+    </message>
+    <message>
+        <source>font of style GC7</source>
+        <translation>police du style GC7</translation>
+    </message>
+    <message>
+        <source>font of style GC10</source>
+        <translation>police du style GC10</translation>
+    </message>
+    <message>
+        <source>font of style GC15</source>
+        <translation>police du style GC15</translation>
+    </message>
+    <message>
+        <source>font of the dimension style</source>
+        <translation>police du style de cote</translation>
+    </message>
+    <message>
+        <source>AutoCAD command after a style is chosen: 0 none, 1 one-line text, 2 dynamic text, 3 paragraph text</source>
+        <translation>commande AutoCAD après le choix d&apos;un style : 0 aucune, 1 texte sur une ligne, 2 texte dynamique, 3 texte multiligne</translation>
+    </message>
+    <message>
+        <source>language of the add-on: FRA, ENG, DEU, ITA</source>
+        <translation>langue du module : FRA, ENG, DEU, ITA</translation>
+    </message>
+    <message>
+        <source>show the add-on&apos;s logo while modules load</source>
+        <translation>afficher le logo du module pendant le chargement des modules</translation>
+    </message>
+    <message>
+        <source>show the user profile of the drawing</source>
+        <translation>afficher le profil utilisateur du dessin</translation>
+    </message>
+    <message>
+        <source>default colour of Zmult 1:10</source>
+        <translation>couleur par défaut de Zmult 1:10</translation>
+    </message>
+    <message>
+        <source>default colour of Zmult 1:20</source>
+        <translation>couleur par défaut de Zmult 1:20</translation>
+    </message>
+    <message>
+        <source>default colour of Zmult 1:50</source>
+        <translation>couleur par défaut de Zmult 1:50</translation>
+    </message>
+    <message>
+        <source>default colour of Zmult 1:100</source>
+        <translation>couleur par défaut de Zmult 1:100</translation>
+    </message>
+    <message>
+        <source>default colour of Zmult 1:200</source>
+        <translation>couleur par défaut de Zmult 1:200</translation>
+    </message>
+    <message>
+        <source>default colour of Zmult 1:500</source>
+        <translation>couleur par défaut de Zmult 1:500</translation>
+    </message>
+    <message>
+        <source>path of the Windows explorer</source>
+        <translation>emplacement de l&apos;explorateur Windows</translation>
+    </message>
+    <message>
+        <source>path of the calculator</source>
+        <translation>emplacement de la calculatrice</translation>
+    </message>
+    <message>
+        <source>path of the WordPad editor</source>
+        <translation>emplacement de l&apos;éditeur WordPad</translation>
+    </message>
+    <message>
+        <source>path of the notepad</source>
+        <translation>emplacement du bloc-notes</translation>
+    </message>
+    <message>
+        <source>path of Acrobat Reader</source>
+        <translation>emplacement d&apos;Acrobat Reader</translation>
+    </message>
+    <message>
+        <source>path of a personal program</source>
+        <translation>emplacement d&apos;un programme personnel</translation>
+    </message>
+    <message>
+        <source>drawing of the result: polyligne (a polyline) or points</source>
+        <translation>dessin du résultat : polyligne ou points</translation>
+    </message>
+    <message>
+        <source>drawing of the slope: 2 (2D) or 3 (3D)</source>
+        <translation>dessin du talus : 2 (2D) ou 3 (3D)</translation>
+    </message>
+    <message>
+        <source>horizontal distance of the slope</source>
+        <translation>distance horizontale du talus</translation>
+    </message>
+    <message>
+        <source>vertical distance of the slope</source>
+        <translation>distance verticale du talus</translation>
+    </message>
+    <message>
+        <source>initial search length, m</source>
+        <translation>longueur initiale de recherche, en m</translation>
+    </message>
+    <message>
+        <source>number of searches over 360 degrees</source>
+        <translation>nombre de recherches sur 360 degrés</translation>
+    </message>
+    <message>
+        <source>spacing between the searches</source>
+        <translation>écart entre les recherches</translation>
+    </message>
+    <message>
+        <source>scale factor of the direction arrows</source>
+        <translation>facteur d&apos;échelle des flèches de direction</translation>
+    </message>
+</context>
+<context>
     <name>OfficeStandard</name>
     <message>
         <source>The office standard (%1) fixes this value.</source>
@@ -501,6 +740,17 @@ du programme (son identifiant dans l&apos;historique)</translation>
     <message>
         <source>restore takes at most one entry number, or --run ID</source>
         <translation>restore prend au plus un numéro d&apos;entrée, ou --run ID</translation>
+    </message>
+    <message>
+        <source>list every key of both dialogs: dialog, key, Lisp
+name, type, default, choices, office value, meaning</source>
+        <translation>liste chaque clé des deux boîtes de dialogue : boîte,
+clé, nom Lisp, type, défaut, choix, valeur du bureau,
+sens</translation>
+    </message>
+    <message>
+        <source>keys takes no argument</source>
+        <translation>keys ne prend aucun argument</translation>
     </message>
 </context>
 <context>

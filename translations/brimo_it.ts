@@ -127,6 +127,245 @@
     </message>
 </context>
 <context>
+    <name>KeyMeaning</name>
+    <message>
+        <source>width of the user-sized frame, mm</source>
+        <translation>larghezza della cornice a misura dell&apos;utente, mm</translation>
+    </message>
+    <message>
+        <source>length of the user-sized frame, mm</source>
+        <translation>lunghezza della cornice a misura dell&apos;utente, mm</translation>
+    </message>
+    <message>
+        <source>colour number of the double frame</source>
+        <translation>numero di colore della doppia cornice</translation>
+    </message>
+    <message>
+        <source>offset of the double frame, mm on paper</source>
+        <translation>scostamento della doppia cornice, mm sulla carta</translation>
+    </message>
+    <message>
+        <source>layer name of the frame</source>
+        <translation>nome del layer della cornice</translation>
+    </message>
+    <message>
+        <source>default unit in model space: 0 mm, 1 cm, 2 m</source>
+        <translation>unità predefinita nello spazio modello: 0 mm, 1 cm, 2 m</translation>
+    </message>
+    <message>
+        <source>default unit in paper space: 0 mm, 1 cm, 2 m</source>
+        <translation>unità predefinita nello spazio carta: 0 mm, 1 cm, 2 m</translation>
+    </message>
+    <message>
+        <source>slant of the text styles, degrees</source>
+        <translation>inclinazione degli stili di testo, gradi</translation>
+    </message>
+    <message>
+        <source>compression of the text styles</source>
+        <translation>compressione degli stili di testo</translation>
+    </message>
+    <message>
+        <source>height of style GC1, mm on paper</source>
+        <translation>altezza dello stile GC1, mm sulla carta</translation>
+    </message>
+    <message>
+        <source>height of style GC2</source>
+        <translation>altezza dello stile GC2</translation>
+    </message>
+    <message>
+        <source>height of style GC3</source>
+        <translation>altezza dello stile GC3</translation>
+    </message>
+    <message>
+        <source>height of style GC4</source>
+        <translation>altezza dello stile GC4</translation>
+    </message>
+    <message>
+        <source>height of style GC5</source>
+        <translation>altezza dello stile GC5</translation>
+    </message>
+    <message>
+        <source>height of style GC7</source>
+        <translation>altezza dello stile GC7</translation>
+    </message>
+    <message>
+        <source>height of style GC10</source>
+        <translation>altezza dello stile GC10</translation>
+    </message>
+    <message>
+        <source>height of style GC15</source>
+        <translation>altezza dello stile GC15</translation>
+    </message>
+    <message>
+        <source>text height of the dimension style GCC</source>
+        <translation>altezza del testo dello stile di quota GCC</translation>
+    </message>
+    <message>
+        <source>colour of the dimension style GCC</source>
+        <translation>colore dello stile di quota GCC</translation>
+    </message>
+    <message>
+        <source>layer to use after the command: 0 the GC layers, 1 the current layer</source>
+        <translation>layer da usare dopo il comando: 0 i layer GC, 1 il layer corrente</translation>
+    </message>
+    <message>
+        <source>name of the office</source>
+        <translation>nome dell&apos;ufficio</translation>
+    </message>
+    <message>
+        <source>address of the office</source>
+        <translation>indirizzo dell&apos;ufficio</translation>
+    </message>
+    <message>
+        <source>postal code of the office</source>
+        <translation>codice postale dell&apos;ufficio</translation>
+    </message>
+    <message>
+        <source>town of the office</source>
+        <translation>città dell&apos;ufficio</translation>
+    </message>
+    <message>
+        <source>telephone number of the office</source>
+        <translation>numero di telefono dell&apos;ufficio</translation>
+    </message>
+    <message>
+        <source>fax number of the office</source>
+        <translation>numero di fax dell&apos;ufficio</translation>
+    </message>
+    <message>
+        <source>font of style GC1</source>
+        <translation>carattere dello stile GC1</translation>
+    </message>
+    <message>
+        <source>font of style GC2</source>
+        <translation>carattere dello stile GC2</translation>
+    </message>
+    <message>
+        <source>font of style GC3</source>
+        <translation>carattere dello stile GC3</translation>
+    </message>
+    <message>
+        <source>font of style GC4</source>
+        <translation>carattere dello stile GC4</translation>
+    </message>
+    <message>
+        <source>font of style GC5</source>
+        <translation>carattere dello stile GC5</translation>
+    </message>
+    <message>
+        <source>font of style GC7</source>
+        <translation>carattere dello stile GC7</translation>
+    </message>
+    <message>
+        <source>font of style GC10</source>
+        <translation>carattere dello stile GC10</translation>
+    </message>
+    <message>
+        <source>font of style GC15</source>
+        <translation>carattere dello stile GC15</translation>
+    </message>
+    <message>
+        <source>font of the dimension style</source>
+        <translation>carattere dello stile di quota</translation>
+    </message>
+    <message>
+        <source>AutoCAD command after a style is chosen: 0 none, 1 one-line text, 2 dynamic text, 3 paragraph text</source>
+        <translation>comando AutoCAD dopo la scelta di uno stile: 0 nessuno, 1 testo su una riga, 2 testo dinamico, 3 testo multilinea</translation>
+    </message>
+    <message>
+        <source>language of the add-on: FRA, ENG, DEU, ITA</source>
+        <translation>lingua del modulo: FRA, ENG, DEU, ITA</translation>
+    </message>
+    <message>
+        <source>show the add-on&apos;s logo while modules load</source>
+        <translation>mostrare il logo del modulo durante il caricamento dei moduli</translation>
+    </message>
+    <message>
+        <source>show the user profile of the drawing</source>
+        <translation>mostrare il profilo utente del disegno</translation>
+    </message>
+    <message>
+        <source>default colour of Zmult 1:10</source>
+        <translation>colore predefinito di Zmult 1:10</translation>
+    </message>
+    <message>
+        <source>default colour of Zmult 1:20</source>
+        <translation>colore predefinito di Zmult 1:20</translation>
+    </message>
+    <message>
+        <source>default colour of Zmult 1:50</source>
+        <translation>colore predefinito di Zmult 1:50</translation>
+    </message>
+    <message>
+        <source>default colour of Zmult 1:100</source>
+        <translation>colore predefinito di Zmult 1:100</translation>
+    </message>
+    <message>
+        <source>default colour of Zmult 1:200</source>
+        <translation>colore predefinito di Zmult 1:200</translation>
+    </message>
+    <message>
+        <source>default colour of Zmult 1:500</source>
+        <translation>colore predefinito di Zmult 1:500</translation>
+    </message>
+    <message>
+        <source>path of the Windows explorer</source>
+        <translation>percorso di Esplora risorse di Windows</translation>
+    </message>
+    <message>
+        <source>path of the calculator</source>
+        <translation>percorso della calcolatrice</translation>
+    </message>
+    <message>
+        <source>path of the WordPad editor</source>
+        <translation>percorso dell&apos;editor WordPad</translation>
+    </message>
+    <message>
+        <source>path of the notepad</source>
+        <translation>percorso del Blocco note</translation>
+    </message>
+    <message>
+        <source>path of Acrobat Reader</source>
+        <translation>percorso di Acrobat Reader</translation>
+    </message>
+    <message>
+        <source>path of a personal program</source>
+        <translation>percorso di un programma personale</translation>
+    </message>
+    <message>
+        <source>drawing of the result: polyligne (a polyline) or points</source>
+        <translation>disegno del risultato: polyligne (polilinea) o points (punti)</translation>
+    </message>
+    <message>
+        <source>drawing of the slope: 2 (2D) or 3 (3D)</source>
+        <translation>disegno della scarpata: 2 (2D) o 3 (3D)</translation>
+    </message>
+    <message>
+        <source>horizontal distance of the slope</source>
+        <translation>distanza orizzontale della scarpata</translation>
+    </message>
+    <message>
+        <source>vertical distance of the slope</source>
+        <translation>distanza verticale della scarpata</translation>
+    </message>
+    <message>
+        <source>initial search length, m</source>
+        <translation>lunghezza iniziale di ricerca, m</translation>
+    </message>
+    <message>
+        <source>number of searches over 360 degrees</source>
+        <translation>numero di ricerche su 360 gradi</translation>
+    </message>
+    <message>
+        <source>spacing between the searches</source>
+        <translation>distanza tra le ricerche</translation>
+    </message>
+    <message>
+        <source>scale factor of the direction arrows</source>
+        <translation>fattore di scala delle frecce di direzione</translation>
+    </message>
+</context>
+<context>
     <name>OfficeStandard</name>
     <message>
         <source>The office standard (%1) fixes this value.</source>
@@ -499,6 +738,17 @@ esecuzione (il suo identificativo nella cronologia)</translation>
     <message>
         <source>restore takes at most one entry number, or --run ID</source>
         <translation>restore accetta al massimo un numero di voce, oppure --run ID</translation>
+    </message>
+    <message>
+        <source>list every key of both dialogs: dialog, key, Lisp
+name, type, default, choices, office value, meaning</source>
+        <translation>elenca ogni chiave delle due finestre: finestra,
+chiave, nome Lisp, tipo, predefinito, scelte, valore
+dell&apos;ufficio, significato</translation>
+    </message>
+    <message>
+        <source>keys takes no argument</source>
+        <translation>keys non accetta argomenti</translation>
     </message>
 </context>
 <context>

@@ -102,6 +102,12 @@ void SetSlopeValue(SlopeControlState& state, QAnyStringView key, const QString& 
     }
 }
 
+QString SlopeLispName(QAnyStringView key) {
+    for (const SlopeRow& row : kSlopeRows)
+        if (ofKey(row, key)) return QLatin1String(row.lispName);
+    return {};
+}
+
 QStringList SlopeKeyControls(QAnyStringView key) {
     QStringList controls;
     for (const SlopeRow& row : kSlopeRows) {

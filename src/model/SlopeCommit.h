@@ -44,6 +44,9 @@ QString SlopeValue(const SlopeControlState& state, QAnyStringView key);
 // takes the text.
 void SetSlopeValue(SlopeControlState& state, QAnyStringView key, const QString& value);
 
+// The name of a key's Lisp variable ("QZ_tal_dh" of "x_QZ_tal_dh").
+QString SlopeLispName(QAnyStringView key);
+
 // The controls that set a key: the pair of check boxes or of option buttons
 // of its rows, or its field.
 QStringList SlopeKeyControls(QAnyStringView key);

@@ -4,7 +4,7 @@
 
 namespace brimo {
 
-const std::array<CommandRow, 9> kCommandTable = {{
+const std::array<CommandRow, 10> kCommandTable = {{
     {"get", "[KEY...]",
      QT_TRANSLATE_NOOP("SettingsText", "print each value the dialog would open with (all keys\nwhen none is given), as KEY=VALUE lines"),
      "--dialog --json --origin --value --prefix --prefixes-from --user", RunGet},
@@ -31,6 +31,9 @@ const std::array<CommandRow, 9> kCommandTable = {{
      QT_TRANSLATE_NOOP("SettingsText", "set every key that the office standard gives or locks\nto its value; with --check, report which users differ\n"
      "from it, and in which keys"),
      "--json --check --detailed-exitcodes --prefix --prefixes-from --user", RunHeal},
+    {"keys", "",
+     QT_TRANSLATE_NOOP("SettingsText", "list every key of both dialogs: dialog, key, Lisp\nname, type, default, choices, office value, meaning"),
+     "--json", RunKeys},
     {"help", "[COMMAND]", QT_TRANSLATE_NOOP("SettingsText", "this text, or the usage of one command"), "--help-all", RunHelp},
     {"version", "", QT_TRANSLATE_NOOP("SettingsText", "the version"), "", RunVersion},
 }};

@@ -22,7 +22,7 @@ struct CommandRow {
     RunResult (*run)(const Options& options);
 };
 
-extern const std::array<CommandRow, 9> kCommandTable;
+extern const std::array<CommandRow, 10> kCommandTable;
 
 // The row of a command, or nullptr.
 const CommandRow* FindCommand(QStringView name);

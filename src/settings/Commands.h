@@ -48,6 +48,7 @@ RunResult RunApply(const Options& options);
 RunResult RunHistory(const Options& options);
 RunResult RunRestore(const Options& options);
 RunResult RunHeal(const Options& options);
+RunResult RunKeys(const Options& options);
 
 // Runs `each` with every prefix of the options in force in turn (or once, on
 // the environment's), after testing that the prefix is a folder; `each` gets

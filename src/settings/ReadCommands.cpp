@@ -3,6 +3,9 @@
 #include "settings/Commands.h"
 #include "settings/UserFiles.h"
 #include "model/FailureText.h"
+#include "model/GeneLispCatalogue.h"
+#include "model/KeyMeanings.h"
+#include "model/SlopeOpening.h"
 
 #include "platform/Cp1252.h"
 #include "platform/FileAccess.h"
@@ -128,6 +131,66 @@ QJsonObject entryJson(const HistoryEntry& entry) {
 }
 
 } // namespace
+
+namespace {
+
+// What keys says of a key: its dialog, names, type, default, choices, the
+// office standard's value and its meaning.
+struct KeyFacts {
+    QString dialog, key, lisp, type, defaultValue;
+    QStringList choices;
+    const OfficeKey* office;
+    QString meaning;
+};
+
+QList<KeyFacts> keyFacts(const OfficeStandard* standard) {
+    static const char* const kTypes[] = {"number", "text", "choice", "flag"}; // in the order of ValueType
+    QList<KeyFacts> facts;
+    const GeneralVariables defaults;
+    for (const SettingKey& key : SettingKeys(SettingSection::General)) {
+        const auto row = std::find_if(kGeneralVariableCatalogue.begin(), kGeneralVariableCatalogue.end(),
+                                      [&](const GeneralVariableRow& r) { return key.key == QLatin1String(r.key); });
+        const auto lisp = std::find_if(kGeneLispCatalogue.begin(), kGeneLispCatalogue.end(),
+                                       [&](const GeneLispRow& r) { return key.key == QLatin1String(r.variable); });
+        facts.append({QStringLiteral("general"), key.key, QLatin1String(lisp->lispName),
+                      QLatin1String(kTypes[static_cast<int>(row->type)]), defaults.text(key.key), key.choices,
+                      standard ? standard->find(SettingSection::General, key.key) : nullptr, KeyMeaning(key.key)});
+    }
+    for (const SettingKey& key : SettingKeys(SettingSection::Slope))
+        facts.append({QStringLiteral("slope"), key.key, SlopeLispName(key.key),
+                      QLatin1String(key.kind == KeyKind::Choice ? "choice" : "number"), SlopeValue(SlopeOpeningState(), key.key),
+                      key.choices, standard ? standard->find(SettingSection::Slope, key.key) : nullptr, KeyMeaning(key.key)});
+    return facts;
+}
+
+} // namespace
+
+// Every key of both dialogs, one line each (tab-separated) or as JSON.
+RunResult RunKeys(const Options& options) {
+    if (!options.arguments.isEmpty()) {
+        Complain(SettingsText::tr("keys takes no argument"));
+        return {true};
+    }
+    QJsonArray json;
+    for (const KeyFacts& key : keyFacts(options.standard.get())) {
+        if (!options.json) {
+            const QString office = !key.office ? QStringLiteral("-")
+                                   : key.office->locked ? QStringLiteral("locked ") + key.office->value
+                                                        : key.office->value;
+            Print(QStringList{key.dialog, key.key, key.lisp, key.type, key.defaultValue,
+                              key.choices.isEmpty() ? QStringLiteral("-") : key.choices.join(QLatin1Char(',')), office, key.meaning}
+                      .join(QLatin1Char('\t')) + QLatin1Char('\n'));
+            continue;
+        }
+        QJsonObject object{{"dialog", key.dialog}, {"key", key.key},   {"lisp", key.lisp},
+                           {"type", key.type},     {"default", key.defaultValue},
+                           {"choices", QJsonArray::fromStringList(key.choices)}, {"meaning", key.meaning}};
+        if (key.office) object.insert(QStringLiteral("office"), QJsonObject{{"value", key.office->value}, {"locked", key.office->locked}});
+        json.append(object);
+    }
+    if (options.json) Print(QString::fromUtf8(QJsonDocument(json).toJson()));
+    return {};
+}
 
 RunResult RunGet(const Options& options) {
     if (options.bareValue && options.arguments.size() != 1) {
