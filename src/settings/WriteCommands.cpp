@@ -95,21 +95,29 @@ SectionEdits editsOfProfile(const Options& options, QStringList& refusals) {
     return all;
 }
 
+// A value that a commit changes, and why: asked for, written out with what
+// the dialog shows because nothing was stored, or neither (a text cut).
+struct KeyReport {
+    enum class Why { Other, Given, Filled };
+    QString section, key, before, after;
+    Why why = Why::Other;
+};
+
 // What a commit did on one prefix, for the text report and --json.
 struct PrefixReport {
     QString prefix;
     QString user;
     bool changed = false;
-    QList<QStringList> keys; // section, key, old value, new value, "given" or "filled" or ""
+    QList<KeyReport> keys;
     QStringList files;
     QString error;
 };
 
 QJsonObject jsonOf(const PrefixReport& report) {
     QJsonArray keys;
-    for (const QStringList& key : report.keys)
-        keys.append(QJsonObject{{"section", key[0]}, {"key", key[1]}, {"old", key[2]}, {"new", key[3]},
-                                {"given", key.value(4) == QLatin1String("given")}});
+    for (const KeyReport& key : report.keys)
+        keys.append(QJsonObject{{"section", key.section}, {"key", key.key}, {"old", key.before}, {"new", key.after},
+                                {"given", key.why == KeyReport::Why::Given}});
     QJsonObject json{{"prefix", report.prefix},
                      {"user", report.user},
                      {"changed", report.changed},
@@ -129,9 +137,9 @@ void printText(const PrefixReport& report, bool check) {
     // A key that nothing stored and that the commit writes out with what the
     // dialog shows is counted, not listed: the keys asked for stand out.
     int filled = 0;
-    for (const QStringList& key : report.keys) {
-        if (key.value(4) == QLatin1String("filled")) ++filled;
-        else text += QStringLiteral("  %1: \"%2\" -> \"%3\"\n").arg(Printable(key[1]), Printable(key[2]), Printable(key[3]));
+    for (const KeyReport& key : report.keys) {
+        if (key.why == KeyReport::Why::Filled) ++filled;
+        else text += QStringLiteral("  %1: \"%2\" -> \"%3\"\n").arg(Printable(key.key), Printable(key.before), Printable(key.after));
     }
     if (filled) text += QStringLiteral("  ") + SettingsText::tr("keys written out as the dialog shows them, none being stored: %1").arg(filled) + QLatin1Char('\n');
     for (const QString& file : report.files) text += QStringLiteral("  ") + SettingsText::tr("file %1").arg(Printable(file)) + QLatin1Char('\n');
@@ -164,7 +172,9 @@ PrefixReport commitOnPrefix(const Options& options, const SectionEdits& edits, c
             if (const QString before = user.storedText(section, row.key); before != row.value) {
                 const bool asked = given.contains(SectionName(section) + QLatin1Char('/') + row.key, Qt::CaseInsensitive);
                 report.keys.append({SectionName(section), row.key, before, row.value,
-                                    asked ? QStringLiteral("given") : before.isEmpty() ? QStringLiteral("filled") : QString()});
+                                    asked              ? KeyReport::Why::Given
+                                    : before.isEmpty() ? KeyReport::Why::Filled
+                                                       : KeyReport::Why::Other});
             }
     }
     report.files = plan.changedFiles();
@@ -272,13 +282,10 @@ PrefixReport restoreOnPrefix(const Options& options, int number, const WinePrefi
         report.files.append(windowsFolder + file.name);
         if (folder + file.name == nativeIni) iniBack = file.bytes.value_or(QByteArray());
     }
-    const ProfileDocument now(ReadWholeFile(nativeIni).value_or(QByteArray())), back(iniBack);
-    for (const QString& changed : ChangedKeys(now.bytes(), back.bytes())) {
-        const QByteArray section = toCp1252(changed.section(QLatin1Char('/'), 0, 0));
-        const QByteArray key = toCp1252(changed.section(QLatin1Char('/'), 1));
-        report.keys.append({fromCp1252(section), fromCp1252(key), fromCp1252(now.getString(section, key, 1 << 20)),
-                            fromCp1252(back.getString(section, key, 1 << 20))});
-    }
+    const QByteArray now = ReadWholeFile(nativeIni).value_or(QByteArray());
+    for (const KeyChange& change : KeyChanges(now, iniBack, ChangedKeys(now, iniBack)))
+        report.keys.append({change.key.section(QLatin1Char('/'), 0, 0), change.key.section(QLatin1Char('/'), 1), change.before,
+                            change.after});
     report.changed = !report.files.isEmpty();
     if (report.changed && !options.check) {
         const CommitOutcome outcome = RestoreHistoryEntry(user.lock(), *entry);
@@ -298,14 +305,14 @@ void keepLocks(const Options& options, const WinePrefix& prefix, PrefixReport& r
     if (locked.isEmpty()) return;
     const PrefixReport healed = commitOnPrefix(options, locked, QStringLiteral("heal %1").arg(options.standard->file), prefix);
     if (!healed.error.isEmpty()) report.error = healed.error;
-    for (const QStringList& key : healed.keys) {
+    for (const KeyReport& key : healed.keys) {
         const auto same = std::find_if(report.keys.begin(), report.keys.end(),
-                                       [&](const QStringList& k) { return k[0] == key[0] && k[1] == key[1]; });
-        if (same != report.keys.end()) (*same)[3] = key[3];
+                                       [&](const KeyReport& k) { return k.section == key.section && k.key == key.key; });
+        if (same != report.keys.end()) same->after = key.after;
         else report.keys.append(key);
     }
     // A key that the restore took away and the locks put back did not change.
-    erase_if(report.keys, [](const QStringList& key) { return key[2] == key[3]; });
+    erase_if(report.keys, [](const KeyReport& key) { return key.before == key.after; });
     for (const QString& file : healed.files)
         if (!report.files.contains(file)) report.files.append(file);
 }
