@@ -141,7 +141,9 @@ void CGeneralForm::showLockedKeys() {
 void CGeneralForm::SSTab1_Click() { setCaptions(TabCaptionTable(controls_.tabs->currentIndex())); }
 
 void CGeneralForm::Option5_Click(int index) {
-    variables_.setText(u"x_lang", QLatin1String(kLanguageCodes[static_cast<std::size_t>(index)]));
+    const QString button = QStringLiteral("Option5(%1)").arg(index);
+    for (const GeneralChoice& choice : kGeneralChoices)
+        if (button == QLatin1String(choice.button)) variables_.setText(u"x_lang", QLatin1String(choice.value));
     SetProgramLanguage(variables_.text(u"x_lang"));
     LoadUserLegends(legends_, info_, variables_, legendQuestion_);
     setWindowTitle(legends_.GetLegends(Legend::GeneralTitle));

@@ -62,7 +62,7 @@ private:
     GeneralControls controls_;
     // The controls that the form reads and writes, resolved while it is built.
     QPushButton *cmdOK_, *CmdCancel_, *Command7_, *cmdAbout_;
-    std::array<QRadioButton*, kLanguageCodes.size()> Option5_;
+    std::array<QRadioButton*, kLanguageOptionCount> Option5_;
     QHash<QString, QLineEdit*> fields_;
     QHash<QString, QRadioButton*> options_;
     QHash<QString, QCheckBox*> checkBoxes_;

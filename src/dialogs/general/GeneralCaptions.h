@@ -3,6 +3,8 @@
 // tab, the three buttons that only the load step names, and the two tab
 // sweeps that set the tab captions.
 
+#include "model/GeneralVariableCatalogue.h"
+
 #include <array>
 #include <span>
 
@@ -33,7 +35,12 @@ std::span<const SweepStep> LoadTabSweep();
 // the tab that holds the language options.
 std::span<const SweepStep> LanguageTabSweep();
 
-// The language code of each option of Option5, by index.
-inline constexpr std::array<const char*, 4> kLanguageCodes = {"FRA", "ENG", "DEU", "ITA"};
+// The options of Option5, one a choice of x_lang (whose rows say which
+// language each selects).
+inline constexpr std::size_t kLanguageOptionCount = [] {
+    std::size_t count = 0;
+    for (const GeneralChoice& choice : kGeneralChoices) count += SameName(choice.key, "x_lang");
+    return count;
+}();
 
 } // namespace brimo
