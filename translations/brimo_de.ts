@@ -410,21 +410,6 @@
 <context>
     <name>SettingsText</name>
     <message>
-        <source>print each value the dialog would open with (all keys
-when none is given), as KEY=VALUE lines</source>
-        <translation>gibt jeden Wert aus, mit dem sich der Dialog öffnen
-würde (alle Schlüssel, wenn keiner angegeben ist),
-als Zeilen KEY=VALUE</translation>
-    </message>
-    <message>
-        <source>check each value as its field does, then write both
-files as the dialog&apos;s OK does; keys not given keep what
-the dialog opens with</source>
-        <translation>prüft jeden Wert wie sein Feld, schreibt dann beide
-Dateien wie das OK des Dialogs; nicht angegebene
-Schlüssel behalten den Wert, mit dem er sich öffnet</translation>
-    </message>
-    <message>
         <source>write what each dialog&apos;s OK would write for the user
 (both sections) to a profile file; FILE &quot;-&quot; is the
 standard output</source>
@@ -437,15 +422,6 @@ Profildatei; FILE „-“ ist die Standardausgabe</translation>
 profile file; FILE &quot;-&quot; is the standard input</source>
         <translation>setzt die Schlüssel von [Brimo_Gene] und [Brimo_Talus]
 einer Profildatei; FILE „-“ ist die Standardeingabe</translation>
-    </message>
-    <message>
-        <source>bring back both files as they were before the last
-commit, or before commit N of the history; recorded
-in the history in turn</source>
-        <translation>stellt beide Dateien wieder her, wie sie vor dem
-letzten Speichervorgang oder vor Speichervorgang N
-des Verlaufs waren; wird seinerseits im Verlauf
-vermerkt</translation>
     </message>
     <message>
         <source>this text, or the usage of one command</source>
@@ -658,16 +634,6 @@ welche Benutzer davon abweichen und in welchen
 Schlüsseln</translation>
     </message>
     <message>
-        <source>get, set, apply, restore, heal, history: print one
-JSON document (set, apply, restore, heal: per prefix
-the user, changed, keys with old and new values,
-files, error)</source>
-        <translation>get, set, apply, restore, heal, history: gibt ein
-JSON-Dokument aus (set, apply, restore, heal: je
-Präfix Benutzer, changed, Schlüssel mit altem und
-neuem Wert, Dateien, error)</translation>
-    </message>
-    <message>
         <source>get: put &quot;stored&quot;, &quot;office&quot;, &quot;locked&quot; or &quot;default&quot;
 and a tab in front</source>
         <translation>get: „stored“, „office“, „locked“ oder „default“
@@ -750,6 +716,41 @@ Bürowert, Bedeutung</translation>
     <message>
         <source>keys takes no argument</source>
         <translation>keys nimmt kein Argument</translation>
+    </message>
+    <message>
+        <source>print each stored value, else the office&apos;s or the
+default (all keys when none is given), as KEY=VALUE
+lines</source>
+        <translation>gibt jeden gespeicherten Wert aus, sonst den des
+Büros oder die Vorgabe (alle Schlüssel, wenn keiner
+angegeben ist), als Zeilen KEY=VALUE</translation>
+    </message>
+    <message>
+        <source>check each value as its field does, then write both
+files as the dialog&apos;s OK does; keys not given keep
+their stored values</source>
+        <translation>prüft jeden Wert wie sein Feld, schreibt dann beide
+Dateien wie das OK des Dialogs; nicht angegebene
+Schlüssel behalten ihren gespeicherten Wert</translation>
+    </message>
+    <message>
+        <source>bring back both files as they were before the last
+commit, before commit N of the history, or with
+--run ID before that run; recorded in the history</source>
+        <translation>stellt beide Dateien wieder her, wie sie vor dem
+letzten Speichervorgang, vor Speichervorgang N des
+Verlaufs oder mit --run ID vor diesem Lauf waren;
+wird im Verlauf vermerkt</translation>
+    </message>
+    <message>
+        <source>get, keys, history, set, apply, restore, heal: print
+one JSON document (set, apply, restore, heal: per
+prefix the user, changed, keys with old and new
+values, files, error)</source>
+        <translation>get, keys, history, set, apply, restore, heal: gibt
+ein JSON-Dokument aus (set, apply, restore, heal: je
+Präfix Benutzer, changed, Schlüssel mit altem und
+neuem Wert, Dateien, error)</translation>
     </message>
 </context>
 <context>

@@ -410,20 +410,6 @@
 <context>
     <name>SettingsText</name>
     <message>
-        <source>print each value the dialog would open with (all keys
-when none is given), as KEY=VALUE lines</source>
-        <translation>print each value the dialog would open with (all keys
-when none is given), as KEY=VALUE lines</translation>
-    </message>
-    <message>
-        <source>check each value as its field does, then write both
-files as the dialog&apos;s OK does; keys not given keep what
-the dialog opens with</source>
-        <translation>check each value as its field does, then write both
-files as the dialog&apos;s OK does; keys not given keep what
-the dialog opens with</translation>
-    </message>
-    <message>
         <source>write what each dialog&apos;s OK would write for the user
 (both sections) to a profile file; FILE &quot;-&quot; is the
 standard output</source>
@@ -436,14 +422,6 @@ standard output</translation>
 profile file; FILE &quot;-&quot; is the standard input</source>
         <translation>set the keys of [Brimo_Gene] and [Brimo_Talus] of a
 profile file; FILE &quot;-&quot; is the standard input</translation>
-    </message>
-    <message>
-        <source>bring back both files as they were before the last
-commit, or before commit N of the history; recorded
-in the history in turn</source>
-        <translation>bring back both files as they were before the last
-commit, or before commit N of the history; recorded
-in the history in turn</translation>
     </message>
     <message>
         <source>this text, or the usage of one command</source>
@@ -648,16 +626,6 @@ to its value; with --check, report which users differ
 from it, and in which keys</translation>
     </message>
     <message>
-        <source>get, set, apply, restore, heal, history: print one
-JSON document (set, apply, restore, heal: per prefix
-the user, changed, keys with old and new values,
-files, error)</source>
-        <translation>get, set, apply, restore, heal, history: print one
-JSON document (set, apply, restore, heal: per prefix
-the user, changed, keys with old and new values,
-files, error)</translation>
-    </message>
-    <message>
         <source>get: put &quot;stored&quot;, &quot;office&quot;, &quot;locked&quot; or &quot;default&quot;
 and a tab in front</source>
         <translation>get: put &quot;stored&quot;, &quot;office&quot;, &quot;locked&quot; or &quot;default&quot;
@@ -738,6 +706,40 @@ name, type, default, choices, office value, meaning</translation>
     <message>
         <source>keys takes no argument</source>
         <translation>keys takes no argument</translation>
+    </message>
+    <message>
+        <source>print each stored value, else the office&apos;s or the
+default (all keys when none is given), as KEY=VALUE
+lines</source>
+        <translation>print each stored value, else the office&apos;s or the
+default (all keys when none is given), as KEY=VALUE
+lines</translation>
+    </message>
+    <message>
+        <source>check each value as its field does, then write both
+files as the dialog&apos;s OK does; keys not given keep
+their stored values</source>
+        <translation>check each value as its field does, then write both
+files as the dialog&apos;s OK does; keys not given keep
+their stored values</translation>
+    </message>
+    <message>
+        <source>bring back both files as they were before the last
+commit, before commit N of the history, or with
+--run ID before that run; recorded in the history</source>
+        <translation>bring back both files as they were before the last
+commit, before commit N of the history, or with
+--run ID before that run; recorded in the history</translation>
+    </message>
+    <message>
+        <source>get, keys, history, set, apply, restore, heal: print
+one JSON document (set, apply, restore, heal: per
+prefix the user, changed, keys with old and new
+values, files, error)</source>
+        <translation>get, keys, history, set, apply, restore, heal: print
+one JSON document (set, apply, restore, heal: per
+prefix the user, changed, keys with old and new
+values, files, error)</translation>
     </message>
 </context>
 <context>

@@ -410,22 +410,6 @@
 <context>
     <name>SettingsText</name>
     <message>
-        <source>print each value the dialog would open with (all keys
-when none is given), as KEY=VALUE lines</source>
-        <translation>affiche chaque valeur avec laquelle la boîte de dialogue
-s&apos;ouvrirait (toutes les clés si aucune n&apos;est donnée),
-en lignes KEY=VALUE</translation>
-    </message>
-    <message>
-        <source>check each value as its field does, then write both
-files as the dialog&apos;s OK does; keys not given keep what
-the dialog opens with</source>
-        <translation>vérifie chaque valeur comme le fait son champ, puis
-écrit les deux fichiers comme l&apos;OK de la boîte de
-dialogue ; les clés non données gardent la valeur
-avec laquelle elle s&apos;ouvre</translation>
-    </message>
-    <message>
         <source>write what each dialog&apos;s OK would write for the user
 (both sections) to a profile file; FILE &quot;-&quot; is the
 standard output</source>
@@ -438,14 +422,6 @@ deux sections) ; FILE « - » est la sortie standard</translation>
 profile file; FILE &quot;-&quot; is the standard input</source>
         <translation>règle les clés de [Brimo_Gene] et [Brimo_Talus] d&apos;un
 fichier de profil ; FILE « - » est l&apos;entrée standard</translation>
-    </message>
-    <message>
-        <source>bring back both files as they were before the last
-commit, or before commit N of the history; recorded
-in the history in turn</source>
-        <translation>rétablit les deux fichiers tels qu&apos;ils étaient avant
-le dernier enregistrement, ou avant l&apos;enregistrement N
-de l&apos;historique ; inscrit à son tour dans l&apos;historique</translation>
     </message>
     <message>
         <source>this text, or the usage of one command</source>
@@ -658,16 +634,6 @@ verrouille sa valeur ; avec --check, indique quels
 utilisateurs s&apos;en écartent, et sur quelles clés</translation>
     </message>
     <message>
-        <source>get, set, apply, restore, heal, history: print one
-JSON document (set, apply, restore, heal: per prefix
-the user, changed, keys with old and new values,
-files, error)</source>
-        <translation>get, set, apply, restore, heal, history : affiche un
-seul document JSON (set, apply, restore, heal : par
-préfixe l&apos;utilisateur, changed, les clés avec
-anciennes et nouvelles valeurs, les fichiers, error)</translation>
-    </message>
-    <message>
         <source>get: put &quot;stored&quot;, &quot;office&quot;, &quot;locked&quot; or &quot;default&quot;
 and a tab in front</source>
         <translation>get : met « stored », « office », « locked » ou
@@ -751,6 +717,42 @@ sens</translation>
     <message>
         <source>keys takes no argument</source>
         <translation>keys ne prend aucun argument</translation>
+    </message>
+    <message>
+        <source>print each stored value, else the office&apos;s or the
+default (all keys when none is given), as KEY=VALUE
+lines</source>
+        <translation>affiche chaque valeur enregistrée, sinon celle du
+bureau ou celle par défaut (toutes les clés si aucune
+n&apos;est donnée), en lignes KEY=VALUE</translation>
+    </message>
+    <message>
+        <source>check each value as its field does, then write both
+files as the dialog&apos;s OK does; keys not given keep
+their stored values</source>
+        <translation>vérifie chaque valeur comme le fait son champ, puis
+écrit les deux fichiers comme l&apos;OK de la boîte de
+dialogue ; les clés non données gardent leur valeur
+enregistrée</translation>
+    </message>
+    <message>
+        <source>bring back both files as they were before the last
+commit, before commit N of the history, or with
+--run ID before that run; recorded in the history</source>
+        <translation>rétablit les deux fichiers tels qu&apos;ils étaient avant
+le dernier enregistrement, avant l&apos;enregistrement N
+de l&apos;historique, ou avec --run ID avant ce passage ;
+inscrit dans l&apos;historique</translation>
+    </message>
+    <message>
+        <source>get, keys, history, set, apply, restore, heal: print
+one JSON document (set, apply, restore, heal: per
+prefix the user, changed, keys with old and new
+values, files, error)</source>
+        <translation>get, keys, history, set, apply, restore, heal : affiche
+un seul document JSON (set, apply, restore, heal : par
+préfixe l&apos;utilisateur, changed, les clés avec
+anciennes et nouvelles valeurs, les fichiers, error)</translation>
     </message>
 </context>
 <context>

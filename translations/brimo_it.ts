@@ -410,21 +410,6 @@
 <context>
     <name>SettingsText</name>
     <message>
-        <source>print each value the dialog would open with (all keys
-when none is given), as KEY=VALUE lines</source>
-        <translation>mostra ogni valore con cui si aprirebbe la finestra
-(tutte le chiavi se non ne è indicata nessuna),
-come righe KEY=VALUE</translation>
-    </message>
-    <message>
-        <source>check each value as its field does, then write both
-files as the dialog&apos;s OK does; keys not given keep what
-the dialog opens with</source>
-        <translation>controlla ogni valore come fa il suo campo, poi scrive
-entrambi i file come l&apos;OK della finestra; le chiavi non
-indicate mantengono il valore con cui essa si apre</translation>
-    </message>
-    <message>
         <source>write what each dialog&apos;s OK would write for the user
 (both sections) to a profile file; FILE &quot;-&quot; is the
 standard output</source>
@@ -437,14 +422,6 @@ sezioni); FILE &quot;-&quot; è lo standard output</translation>
 profile file; FILE &quot;-&quot; is the standard input</source>
         <translation>imposta le chiavi di [Brimo_Gene] e [Brimo_Talus] di un
 file di profilo; FILE &quot;-&quot; è lo standard input</translation>
-    </message>
-    <message>
-        <source>bring back both files as they were before the last
-commit, or before commit N of the history; recorded
-in the history in turn</source>
-        <translation>riporta entrambi i file com&apos;erano prima dell&apos;ultimo
-salvataggio, o prima del salvataggio N della
-cronologia; registrato a sua volta nella cronologia</translation>
     </message>
     <message>
         <source>this text, or the usage of one command</source>
@@ -657,16 +634,6 @@ fissa o blocca al suo valore; con --check riporta
 quali utenti se ne discostano, e in quali chiavi</translation>
     </message>
     <message>
-        <source>get, set, apply, restore, heal, history: print one
-JSON document (set, apply, restore, heal: per prefix
-the user, changed, keys with old and new values,
-files, error)</source>
-        <translation>get, set, apply, restore, heal, history: stampa un
-unico documento JSON (set, apply, restore, heal: per
-prefisso l&apos;utente, changed, le chiavi con valori
-vecchi e nuovi, i file, error)</translation>
-    </message>
-    <message>
         <source>get: put &quot;stored&quot;, &quot;office&quot;, &quot;locked&quot; or &quot;default&quot;
 and a tab in front</source>
         <translation>get: mette davanti &quot;stored&quot;, &quot;office&quot;, &quot;locked&quot; o
@@ -749,6 +716,41 @@ dell&apos;ufficio, significato</translation>
     <message>
         <source>keys takes no argument</source>
         <translation>keys non accetta argomenti</translation>
+    </message>
+    <message>
+        <source>print each stored value, else the office&apos;s or the
+default (all keys when none is given), as KEY=VALUE
+lines</source>
+        <translation>mostra ogni valore salvato, altrimenti quello
+dell&apos;ufficio o il predefinito (tutte le chiavi se
+non ne è indicata nessuna), come righe KEY=VALUE</translation>
+    </message>
+    <message>
+        <source>check each value as its field does, then write both
+files as the dialog&apos;s OK does; keys not given keep
+their stored values</source>
+        <translation>controlla ogni valore come fa il suo campo, poi scrive
+entrambi i file come l&apos;OK della finestra; le chiavi non
+indicate mantengono il loro valore salvato</translation>
+    </message>
+    <message>
+        <source>bring back both files as they were before the last
+commit, before commit N of the history, or with
+--run ID before that run; recorded in the history</source>
+        <translation>riporta entrambi i file com&apos;erano prima dell&apos;ultimo
+salvataggio, prima del salvataggio N della cronologia
+o, con --run ID, prima di quella esecuzione;
+registrato nella cronologia</translation>
+    </message>
+    <message>
+        <source>get, keys, history, set, apply, restore, heal: print
+one JSON document (set, apply, restore, heal: per
+prefix the user, changed, keys with old and new
+values, files, error)</source>
+        <translation>get, keys, history, set, apply, restore, heal: stampa
+un unico documento JSON (set, apply, restore, heal:
+per prefisso l&apos;utente, changed, le chiavi con valori
+vecchi e nuovi, i file, error)</translation>
     </message>
 </context>
 <context>

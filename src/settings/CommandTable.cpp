@@ -6,11 +6,11 @@ namespace brimo {
 
 const std::array<CommandRow, 10> kCommandTable = {{
     {"get", "[KEY...]",
-     QT_TRANSLATE_NOOP("SettingsText", "print each value the dialog would open with (all keys\nwhen none is given), as KEY=VALUE lines"),
+     QT_TRANSLATE_NOOP("SettingsText", "print each stored value, else the office's or the\ndefault (all keys when none is given), as KEY=VALUE\nlines"),
      "--dialog --json --origin --value --prefix --prefixes-from --user", RunGet},
     {"set", "KEY=VALUE...",
-     QT_TRANSLATE_NOOP("SettingsText", "check each value as its field does, then write both\nfiles as the dialog's OK does; keys not given keep what\n"
-     "the dialog opens with"),
+     QT_TRANSLATE_NOOP("SettingsText", "check each value as its field does, then write both\nfiles as the dialog's OK does; keys not given keep\n"
+     "their stored values"),
      "--dialog --json --check --detailed-exitcodes --prefix --prefixes-from --user", RunSet},
     {"export", "FILE",
      QT_TRANSLATE_NOOP("SettingsText", "write what each dialog's OK would write for the user\n(both sections) to a profile file; FILE \"-\" is the\n"
@@ -23,9 +23,9 @@ const std::array<CommandRow, 10> kCommandTable = {{
      QT_TRANSLATE_NOOP("SettingsText", "list the last 20 commits of the user's files (by the\ndialogs' OK, set, apply, restore, heal): number,\n"
      "time, program, what, keys changed, who, run; show N:\nthat entry with each key's old and new value"),
      "--json --prefix --prefixes-from --user", RunHistory},
-    {"restore", "[N | --run ID]",
-     QT_TRANSLATE_NOOP("SettingsText", "bring back both files as they were before the last\ncommit, or before commit N of the history; recorded\n"
-     "in the history in turn"),
+    {"restore", "[N]",
+     QT_TRANSLATE_NOOP("SettingsText", "bring back both files as they were before the last\ncommit, before commit N of the history, or with\n"
+     "--run ID before that run; recorded in the history"),
      "--json --check --detailed-exitcodes --run --prefix --prefixes-from --user", RunRestore},
     {"heal", "",
      QT_TRANSLATE_NOOP("SettingsText", "set every key that the office standard gives or locks\nto its value; with --check, report which users differ\n"

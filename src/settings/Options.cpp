@@ -27,8 +27,8 @@ bool readPrefixList(const QString& file, QStringList& prefixes, QString* error) 
 
 constexpr OptionRow kOptions[] = {
     {"dialog", "", "general|slope", QT_TRANSLATE_NOOP("SettingsText", "the dialog whose keys get and set use (general)")},
-    {"json", "", "", QT_TRANSLATE_NOOP("SettingsText", "get, set, apply, restore, heal, history: print one\nJSON document (set, apply, restore, heal: per prefix\n"
-                     "the user, changed, keys with old and new values,\nfiles, error)")},
+    {"json", "", "", QT_TRANSLATE_NOOP("SettingsText", "get, keys, history, set, apply, restore, heal: print\none JSON document (set, apply, restore, heal: per\n"
+                     "prefix the user, changed, keys with old and new\nvalues, files, error)")},
     {"value", "", "", QT_TRANSLATE_NOOP("SettingsText", "get: print the bare value of one key")},
     {"origin", "", "", QT_TRANSLATE_NOOP("SettingsText", "get: put \"stored\", \"office\", \"locked\" or \"default\"\nand a tab in front")},
     {"check", "", "", QT_TRANSLATE_NOOP("SettingsText", "set, apply, restore, heal: report what would\nchange, write nothing")},
