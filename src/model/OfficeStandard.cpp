@@ -69,11 +69,6 @@ bool OfficeStandard::locked(SettingSection section, const QString& key) const {
     return office && office->locked;
 }
 
-std::optional<QString> OfficeStandard::value(SettingSection section, const QString& key) const {
-    if (const OfficeKey* office = find(section, key)) return office->value;
-    return std::nullopt;
-}
-
 QList<Edit> OfficeStandard::edits(SettingSection section, bool all) const {
     QList<Edit> edits;
     for (const OfficeKey& office : keys)
@@ -113,7 +108,7 @@ LoadedStandard LoadOfficeStandard(const QString& file) {
             const std::optional<QString> value = CheckedValue(*key, fromCp1252(given), &error);
             if (!value) return refuse(StandardProblem::Kind::BadValue, name, keyName, given);
             // A key given twice: the first wins, as in every profile file.
-            if (!standard->find(section, key->key)) standard->keys.append({key, section, *value, true, false});
+            if (!standard->find(section, key->key)) standard->keys.append({key, section, *value, false});
         }
     }
     for (const QByteArray& keyName : profile.keyNames(kLockedSection)) {
@@ -125,7 +120,7 @@ LoadedStandard LoadOfficeStandard(const QString& file) {
         if (flag == "0") continue;
         const auto given = std::find_if(standard->keys.begin(), standard->keys.end(), [&](const OfficeKey& office) { return office.key == key; });
         if (given != standard->keys.end()) given->locked = true;
-        else standard->keys.append({key, section, defaultOf(section, *key), false, true});
+        else standard->keys.append({key, section, defaultOf(section, *key), true});
     }
     if (!standard->keys.isEmpty()) loaded.standard = std::move(standard);
     return loaded;

@@ -25,8 +25,7 @@ namespace brimo {
 struct OfficeKey {
     const SettingKey* key;
     SettingSection section;
-    QString value;      // the office's, as checked; for a locked key without one, the default
-    bool given = false; // the office gave a value
+    QString value; // the office's, as checked; for a locked key without one, the default
     bool locked = false;
 };
 
@@ -36,8 +35,6 @@ struct OfficeStandard {
 
     const OfficeKey* find(SettingSection section, const QString& key) const;
     bool locked(SettingSection section, const QString& key) const;
-    // The value that stands in for the default of a key (given or locked).
-    std::optional<QString> value(SettingSection section, const QString& key) const;
     // The locked keys of a section at their values; with `all`, every key.
     QList<Edit> edits(SettingSection section, bool all = false) const;
 };
