@@ -6,6 +6,7 @@
 #include <QFile>
 #include <QFileInfo>
 
+#include <cstdio>
 #include <cstdlib>
 #include <unistd.h>
 
@@ -16,7 +17,8 @@ ScratchPrefix::ScratchPrefix() {
     previous_ = qgetenv("WINEPREFIX");
     QDir(root()).mkpath(QStringLiteral("drive_c/windows"));
     QDir(root()).mkpath(QStringLiteral("dosdevices"));
-    ::symlink("../drive_c", QFile::encodeName(root() + QStringLiteral("/dosdevices/c:")).constData());
+    if (::symlink("../drive_c", QFile::encodeName(root() + QStringLiteral("/dosdevices/c:")).constData()) != 0)
+        std::perror("ScratchPrefix: dosdevices/c:");
     qputenv("WINEPREFIX", QFile::encodeName(root()));
     // No office standard but the one a test writes beside the prefix.
     qputenv("BRIMO_STANDARD", QFile::encodeName(standardPath()));
