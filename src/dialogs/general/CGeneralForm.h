@@ -16,6 +16,8 @@
 #include "model/InstallInfo.h"
 #include "model/LegendTable.h"
 
+#include <array>
+
 class QCheckBox;
 class QLineEdit;
 class QPushButton;

@@ -5,7 +5,7 @@
 
 #include "model/GeneralVariableCatalogue.h"
 
-#include <array>
+#include <cstddef>
 #include <span>
 
 namespace brimo {
