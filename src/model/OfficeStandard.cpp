@@ -1,6 +1,5 @@
 #include "model/OfficeStandard.h"
 
-#include "model/GeneralVariables.h"
 #include "model/SlopeOpening.h"
 #include "platform/Cp1252.h"
 #include "platform/FileAccess.h"
@@ -41,13 +40,6 @@ int lineOf(const QByteArray& bytes, QByteArrayView section, QByteArrayView key =
         if (inSection && equals > 0 && profileNamesEqual(text.first(equals).trimmed(), key)) return number;
     }
     return header;
-}
-
-// The value of a locked key that the office does not give: what the dialog
-// opens with when nothing is stored.
-QString defaultOf(SettingSection section, const SettingKey& key) {
-    if (section == SettingSection::General) return GeneralVariables().text(key.key);
-    return SlopeValue(SlopeOpeningState(), key.key);
 }
 
 const SettingKey* anyKey(const QString& name, SettingSection* section) {
@@ -120,7 +112,8 @@ LoadedStandard LoadOfficeStandard(const QString& file) {
         if (flag == "0") continue;
         const auto given = std::find_if(standard->keys.begin(), standard->keys.end(), [&](const OfficeKey& office) { return office.key == key; });
         if (given != standard->keys.end()) given->locked = true;
-        else standard->keys.append({key, section, defaultOf(section, *key), true});
+        // A locked key that the office gives no value locks the default.
+        else standard->keys.append({key, section, DefaultText(section, key->key), true});
     }
     if (!standard->keys.isEmpty()) loaded.standard = std::move(standard);
     return loaded;

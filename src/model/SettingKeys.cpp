@@ -1,6 +1,7 @@
 #include "model/SettingKeys.h"
 
 #include "model/GeneralLoad.h"
+#include "model/SlopeOpening.h"
 #include "model/GeneralVariableCatalogue.h"
 
 #include <QCoreApplication>
@@ -68,6 +69,11 @@ const SettingKey* FindSettingKey(SettingSection section, const QString& name) {
 
 QString SectionName(SettingSection section) {
     return QLatin1String(section == SettingSection::General ? kGeneralSection : kSlopeSection);
+}
+
+QString DefaultText(SettingSection section, const QString& key) {
+    if (section == SettingSection::General) return GeneralVariables().text(key);
+    return SlopeValue(SlopeOpeningState(), key);
 }
 
 QString DialogName(SettingSection section) {

@@ -42,6 +42,10 @@ const QList<SettingKey>& SettingKeys(SettingSection section);
 const SettingKey* FindSettingKey(SettingSection section, const QString& name);
 
 QString SectionName(SettingSection section); // "Brimo_Gene", "Brimo_Talus"
+
+// What a dialog shows for a key when nothing is stored: the general
+// variable's default, or the slope form's own value.
+QString DefaultText(SettingSection section, const QString& key);
 QString DialogName(SettingSection section);  // "general", "slope"
 
 struct Edit {

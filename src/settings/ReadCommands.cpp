@@ -5,7 +5,6 @@
 #include "model/FailureText.h"
 #include "model/GeneLispCatalogue.h"
 #include "model/KeyMeanings.h"
-#include "model/SlopeOpening.h"
 
 #include "platform/Cp1252.h"
 #include "platform/FileAccess.h"
@@ -146,19 +145,17 @@ struct KeyFacts {
 QList<KeyFacts> keyFacts(const OfficeStandard* standard) {
     static const char* const kTypes[] = {"number", "text", "choice", "flag"}; // in the order of ValueType
     QList<KeyFacts> facts;
-    const GeneralVariables defaults;
     for (const SettingKey& key : SettingKeys(SettingSection::General)) {
-        const auto row = std::find_if(kGeneralVariableCatalogue.begin(), kGeneralVariableCatalogue.end(),
-                                      [&](const GeneralVariableRow& r) { return key.key == QLatin1String(r.key); });
+        const GeneralVariableRow* row = FindVariableRow(key.key.toLatin1().constData());
         const auto lisp = std::find_if(kGeneLispCatalogue.begin(), kGeneLispCatalogue.end(),
                                        [&](const GeneLispRow& r) { return key.key == QLatin1String(r.variable); });
         facts.append({QStringLiteral("general"), key.key, QLatin1String(lisp->lispName),
-                      QLatin1String(kTypes[static_cast<int>(row->type)]), defaults.text(key.key), key.choices,
+                      QLatin1String(kTypes[static_cast<int>(row->type)]), DefaultText(SettingSection::General, key.key), key.choices,
                       standard ? standard->find(SettingSection::General, key.key) : nullptr, KeyMeaning(key.key)});
     }
     for (const SettingKey& key : SettingKeys(SettingSection::Slope))
         facts.append({QStringLiteral("slope"), key.key, SlopeLispName(key.key),
-                      QLatin1String(key.kind == KeyKind::Choice ? "choice" : "number"), SlopeValue(SlopeOpeningState(), key.key),
+                      QLatin1String(key.kind == KeyKind::Choice ? "choice" : "number"), DefaultText(SettingSection::Slope, key.key),
                       key.choices, standard ? standard->find(SettingSection::Slope, key.key) : nullptr, KeyMeaning(key.key)});
     return facts;
 }

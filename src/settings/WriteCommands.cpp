@@ -103,6 +103,15 @@ struct KeyReport {
     Why why = Why::Other;
 };
 
+// The locked keys of the office standard (with `all`, every key it gives)
+// at its values, by section.
+SectionEdits editsOfStandard(const OfficeStandard& standard, bool all) {
+    SectionEdits edits;
+    for (SettingSection section : {SettingSection::General, SettingSection::Slope})
+        if (const QList<Edit> office = standard.edits(section, all); !office.isEmpty()) edits.append({section, office});
+    return edits;
+}
+
 // What a commit did on one prefix, for the text report and --json.
 struct PrefixReport {
     QString prefix;
@@ -298,10 +307,7 @@ PrefixReport restoreOnPrefix(const Options& options, int number, const WinePrefi
 // locks take its values again, in a commit of their own when they differ
 // ("heal FILE" in the history); the report tells both.
 void keepLocks(const Options& options, const WinePrefix& prefix, PrefixReport& report) {
-    SectionEdits locked;
-    if (options.standard)
-        for (SettingSection section : {SettingSection::General, SettingSection::Slope})
-            if (const QList<Edit> edits = options.standard->edits(section); !edits.isEmpty()) locked.append({section, edits});
+    const SectionEdits locked = options.standard ? editsOfStandard(*options.standard, false) : SectionEdits();
     if (locked.isEmpty()) return;
     const PrefixReport healed = commitOnPrefix(options, locked, QStringLiteral("heal %1").arg(options.standard->file), prefix);
     if (!healed.error.isEmpty()) report.error = healed.error;
@@ -338,9 +344,7 @@ RunResult RunHeal(const Options& options) {
     SectionEdits edits;
     if (!options.arguments.isEmpty()) refuse(SettingsText::tr("heal takes no argument"), refusals);
     else if (!options.standard) refuse(SettingsText::tr("%1: no office standard to heal to").arg(OfficeStandardPath()), refusals);
-    else
-        for (SettingSection section : {SettingSection::General, SettingSection::Slope})
-            if (const QList<Edit> office = options.standard->edits(section, true); !office.isEmpty()) edits.append({section, office});
+    else edits = editsOfStandard(*options.standard, true);
     return commitEverywhere(options, edits, refusals,
                             options.standard ? QStringLiteral("heal %1").arg(options.standard->file) : QString());
 }
