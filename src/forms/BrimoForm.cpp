@@ -40,4 +40,8 @@ void BrimoForm::showEvent(QShowEvent* event) {
     QDialog::showEvent(event);
 }
 
+void BrimoForm::takeInNewControls() {
+    if (groupKeysReady_) UseOptionGroupKeys(this);
+}
+
 } // namespace brimo

@@ -37,6 +37,9 @@ protected:
     // groups of option buttons, and the names of its controls for screen
     // readers (a form whose captions change names them again).
     void showEvent(QShowEvent* event) override;
+    // Option buttons made after the first showing take the keyboard of
+    // their groups.
+    void takeInNewControls();
 
 private:
     MessageBoxes messageBoxes_;

@@ -4,6 +4,9 @@
 #include <QEvent>
 #include <QKeyEvent>
 #include <QRadioButton>
+#include <QSet>
+
+#include <algorithm>
 
 #include <deque>
 #include <vector>
@@ -17,19 +20,26 @@ using Group = std::vector<QRadioButton*>;
 class OptionGroupKeys : public QObject {
 public:
     explicit OptionGroupKeys(QWidget* form) : QObject(form) {
+        setObjectName(kName);
+        takeIn(form);
+    }
+    static constexpr QLatin1StringView kName{"OptionGroupKeys"};
+
+    // Takes in the option buttons of the form that it does not know yet.
+    void takeIn(QWidget* form) {
         // The tab chain gives the order of the buttons within each frame.
+        std::vector<Group*> grown;
         for (QWidget* w = form->nextInFocusChain(); w && w != form; w = w->nextInFocusChain()) {
             auto* button = qobject_cast<QRadioButton*>(w);
-            if (!button || !button->autoExclusive()) continue;
-            groupOf(button->parentWidget()).push_back(button);
+            if (!button || !button->autoExclusive() || known_.contains(button)) continue;
+            known_.insert(button);
+            Group& group = groupOf(button->parentWidget());
+            group.push_back(button);
+            button->installEventFilter(this);
+            connect(button, &QAbstractButton::toggled, this, [this, &group] { keepTabStop(group); });
+            if (std::ranges::find(grown, &group) == grown.end()) grown.push_back(&group);
         }
-        for (Group& group : groups_) {
-            for (QRadioButton* button : group) {
-                button->installEventFilter(this);
-                connect(button, &QAbstractButton::toggled, this, [this, &group] { keepTabStop(group); });
-            }
-            keepTabStop(group);
-        }
+        for (Group* group : grown) keepTabStop(*group);
     }
 
 protected:
@@ -95,12 +105,18 @@ private:
         return true;
     }
 
+    QSet<QRadioButton*> known_;
     std::vector<QWidget*> frames_;
     std::deque<Group> groups_; // a group stays in place: its handlers hold it
 };
 
 } // namespace
 
-void UseOptionGroupKeys(QWidget* form) { new OptionGroupKeys(form); }
+void UseOptionGroupKeys(QWidget* form) {
+    if (auto* keys = form->findChild<QObject*>(OptionGroupKeys::kName, Qt::FindDirectChildrenOnly))
+        static_cast<OptionGroupKeys*>(keys)->takeIn(form);
+    else
+        new OptionGroupKeys(form);
+}
 
 } // namespace brimo

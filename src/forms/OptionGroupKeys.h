@@ -14,7 +14,8 @@ class QWidget;
 
 namespace brimo {
 
-// Gives the keyboard of groups to every option button of the form.
+// Gives the keyboard of groups to every option button of the form; called
+// again, to the buttons made since.
 void UseOptionGroupKeys(QWidget* form);
 
 } // namespace brimo

@@ -11,8 +11,11 @@
 #include "model/OfficeStandard.h"
 #include "model/UserLegends.h"
 
+#include <gtest/gtest.h>
+
 #include <QList>
 #include <QPointer>
+#include <QTest>
 #include <QWidget>
 
 namespace brimo::test {
@@ -47,11 +50,14 @@ public:
     }
     int loadLegends() { return LoadUserLegends(legends, info, variables, *this); }
 
-    // Shows a form as the program does: its load step, then its window.
+    // Shows a form as the program does: its load step, then its window, and
+    // what the form leaves until its window has been painted.
     template <class Form> Form* show(Form* form) {
         forms_.append(form);
         form->Form_Load();
         form->show();
+        EXPECT_TRUE(QTest::qWaitForWindowExposed(form));
+        QCoreApplication::processEvents();
         return form;
     }
 

@@ -23,6 +23,9 @@
 #include <QRadioButton>
 #include <QTabBar>
 #include <QTabWidget>
+#include <QTimer>
+
+#include <optional>
 
 namespace brimo {
 
@@ -42,12 +45,31 @@ Qt::CheckState checkStateOf(int value) {
     return value == 0 ? Qt::Unchecked : value == 1 ? Qt::Checked : Qt::PartiallyChecked;
 }
 
+// The controls as designed: empty fields and boxes, the design's buttons.
+GeneralControlState designState() {
+    GeneralControlState state;
+    for (const GeneralVariableRow& row : kGeneralVariableCatalogue) {
+        if (ReadOf(row.type) == ControlRead::Text) state.texts.insert(QLatin1String(row.field), QString());
+        if (ReadOf(row.type) == ControlRead::State) state.checkStates.insert(QLatin1String(row.field), 0);
+    }
+    for (const GeneralChoice& choice : kGeneralChoices)
+        if (choice.designSelected) state.selectedOptions.insert(QLatin1String(choice.button));
+    return state;
+}
+
+// The language option selected in `state`: n of Option5(n).
+std::optional<int> selectedLanguage(const GeneralControlState& state) {
+    for (int index = 0; index < static_cast<int>(kLanguageOptionCount); ++index)
+        if (state.selectedOptions.contains(QStringLiteral("Option5(%1)").arg(index))) return index;
+    return std::nullopt;
+}
+
 } // namespace
 
 CGeneralForm::CGeneralForm(Navigator& navigator, const InstallInfo& info, GeneralVariables& variables,
                            const GeneralVariables& stored, LegendTable& legends, LegendFailureQuestion& legendQuestion)
     : navigator_(navigator), info_(info), variables_(variables), stored_(stored), legends_(legends),
-      legendQuestion_(legendQuestion) {
+      legendQuestion_(legendQuestion), shown_(designState()) {
     setObjectName(QStringLiteral("CGeneralForm"));
     setWindowTitle(QStringLiteral("Général"));
     setWindowIcon(GeneralWindowIcon());
@@ -55,41 +77,65 @@ CGeneralForm::CGeneralForm(Navigator& navigator, const InstallInfo& info, Genera
     setFixedSize(TwipsSize(7470, 4455));
     // The classic dialog font, so that six tabs fit in one row.
     setFont(DesignFont());
-    controls_ = BuildGeneralControls(this, legends_, refusalGuard_);
+    controls_ = GeneralControls(this, legends_, refusalGuard_);
     cmdOK_ = controls_.require<QPushButton>(u"cmdOK");
     CmdCancel_ = controls_.require<QPushButton>(u"CmdCancel");
     Command7_ = controls_.require<QPushButton>(u"Command7");
     cmdAbout_ = controls_.require<QPushButton>(u"cmdAbout");
-    for (std::size_t index = 0; index < Option5_.size(); ++index)
-        Option5_[index] = controls_.require<QRadioButton>(QStringLiteral("Option5(%1)").arg(index));
-    for (const char* name : kLoadedTextFields) fields_.insert(QLatin1String(name), controls_.require<QLineEdit>(QLatin1String(name)));
-    for (const GeneralChoice& choice : kGeneralChoices)
-        options_.insert(QLatin1String(choice.button), controls_.require<QRadioButton>(QLatin1String(choice.button)));
+    // Every control that the form fills, reads or words is one of the
+    // tables; those of a tab are resolved when the tab is built.
+    for (const char* name : kLoadedTextFields) TabOfControl(QLatin1String(name));
+    for (const GeneralChoice& choice : kGeneralChoices) TabOfControl(QLatin1String(choice.button));
     for (const GeneralVariableRow& row : kGeneralVariableCatalogue)
-        if (row.type == ValueType::Flag) checkBoxes_.insert(QLatin1String(row.field), controls_.require<QCheckBox>(QLatin1String(row.field)));
+        if (ReadOf(row.type) != ControlRead::Options) TabOfControl(QLatin1String(row.field));
+    for (const ProgramLocation& location : kProgramLocations) TabOfControl(QLatin1String(location.button));
+    for (const CaptionRow& row : LoadButtonCaptions()) TabOfControl(QLatin1String(row.control));
+    for (int tab = 0; tab < controls_.tabs->count(); ++tab)
+        for (const CaptionRow& row : TabCaptionTable(tab)) TabOfControl(QLatin1String(row.control));
+    buildTab(controls_.tabs->currentIndex());
 
     // The focus starts on the control of tab index 0.
     cmdOK_->setFocus();
 
     connect(controls_.tabs, &QTabWidget::currentChanged, this, [this] { SSTab1_Click(); });
-    for (std::size_t index = 0; index < Option5_.size(); ++index)
-        connect(Option5_[index], &QRadioButton::toggled, this, [this, index](bool selected) {
-            if (selected) Option5_Click(static_cast<int>(index));
-        });
-
     connect(cmdOK_, &QPushButton::clicked, this, [this] { cmdOK_Click(); });
     connect(CmdCancel_, &QPushButton::clicked, this, [this] { CmdCancel_Click(); });
     connect(Command7_, &QPushButton::clicked, this, [this] { Command7_Click(); });
     connect(cmdAbout_, &QPushButton::clicked, this, [this] { cmdAbout_Click(); });
+}
+
+// The controls of a tab, made as the tab was designed, then given what the
+// form set on them while they were not built: captions, values, locks.
+void CGeneralForm::buildTab(int tab) {
+    const QList<QWidget*> made = controls_.buildTab(tab);
+    if (made.isEmpty()) return;
+    const auto onTab = [tab](const char* name) { return TabOfControl(QLatin1String(name)) == tab; };
+    for (const char* name : kLoadedTextFields)
+        if (onTab(name)) fields_.insert(QLatin1String(name), controls_.require<QLineEdit>(QLatin1String(name)));
+    for (const GeneralChoice& choice : kGeneralChoices)
+        if (onTab(choice.button)) options_.insert(QLatin1String(choice.button), controls_.require<QRadioButton>(QLatin1String(choice.button)));
+    for (const GeneralVariableRow& row : kGeneralVariableCatalogue)
+        if (row.type == ValueType::Flag && onTab(row.field))
+            checkBoxes_.insert(QLatin1String(row.field), controls_.require<QCheckBox>(QLatin1String(row.field)));
+    for (int index = 0; index < static_cast<int>(kLanguageOptionCount); ++index) {
+        const QString name = QStringLiteral("Option5(%1)").arg(index);
+        if (TabOfControl(name) != tab) continue;
+        connect(controls_.require<QRadioButton>(name), &QRadioButton::toggled, this, [this, index](bool selected) {
+            if (selected && !showingState_) Option5_Click(index);
+        });
+    }
     for (const ProgramLocation& location : kProgramLocations) {
+        if (!onTab(location.button)) continue;
         fields_.insert(QLatin1String(location.field), controls_.require<QLineEdit>(QLatin1String(location.field)));
         connect(controls_.require<QPushButton>(QLatin1String(location.button)), &QPushButton::clicked, this,
                 [this, &location] { ProgramLocation_Click(location); });
     }
-    // Every caption the form sets names a control of the tables.
-    for (const CaptionRow& row : LoadButtonCaptions()) controls_.require<QWidget>(QLatin1String(row.control));
-    for (int tab = 0; tab < controls_.tabs->count(); ++tab)
-        for (const CaptionRow& row : TabCaptionTable(tab)) controls_.require<QWidget>(QLatin1String(row.control));
+    for (QWidget* control : made)
+        if (const auto caption = captions_.constFind(control->objectName()); caption != captions_.cend())
+            SetCaption(control, *caption);
+    putState(shown_, tab);
+    showLockedKeys();
+    takeInNewControls();
 }
 
 void CGeneralForm::Form_Load() {
@@ -97,28 +143,27 @@ void CGeneralForm::Form_Load() {
     setWindowTitle(legends_.GetLegends(Legend::GeneralTitle));
     sweepTabs(LoadTabSweep());
     controls_.tabs->setCurrentIndex(0);
-
-    const GeneralVariables& variables = variables_;
-    for (const char* name : kLoadedTextFields) {
-        QLineEdit* field = fields_.value(QLatin1String(name));
-        field->setText(variables.text(QLatin1String(FindVariableShownBy(name)->key)));
-        field->setCursorPosition(0); // a long text shows its beginning
-    }
-
     // Selecting a language other than the design's raises Option5_Click here.
-    for (const QString& button : StoredSelections(variables)) options_.value(button)->setChecked(true);
-
-    for (const GeneralVariableRow& row : kGeneralVariableCatalogue)
-        if (row.type == ValueType::Flag)
-            if (const std::optional<int> value = StoredCheckState(variables.text(QLatin1String(row.key))))
-                checkBoxes_.value(QLatin1String(row.field))->setCheckState(checkStateOf(*value));
-
+    showControlState(LoadedControlState(variables_));
     showLockedKeys();
     CentreOnScreen(this);
     // What OK compares with, to keep what another program writes meanwhile
     // in the controls that the user leaves alone.
     loadedFrom_ = stored_;
     loaded_ = controlState();
+}
+
+// The tabs not looked at yet are built once the window has been painted:
+// the start does not wait for them, and they are there before a user can
+// reach them.
+void CGeneralForm::paintEvent(QPaintEvent* event) {
+    BrimoForm::paintEvent(event);
+    if (restBuilding_) return;
+    restBuilding_ = true;
+    QTimer::singleShot(0, this, [this] {
+        for (int tab = 0; tab < controls_.tabs->count(); ++tab) buildTab(tab);
+        NameControls(this);
+    });
 }
 
 // A key that the office standard locks: its field (and a location's button),
@@ -128,17 +173,23 @@ void CGeneralForm::showLockedKeys() {
     const QString why = LockedByStandardText(*info_.standard);
     for (const Edit& locked : info_.standard->edits(SettingSection::General)) {
         const QString& control = locked.key->control;
-        if (locked.key->kind != KeyKind::Choice) ShowAsFixed(controls_.byName.value(control), why);
+        QList<QWidget*> fixed;
+        if (locked.key->kind != KeyKind::Choice) fixed << controls_.byName.value(control);
         // A program's location comes from its field or from its button's file dialog.
         for (const ProgramLocation& location : kProgramLocations)
-            if (control == QLatin1String(location.field)) ShowAsFixed(controls_.byName.value(QLatin1String(location.button)), why);
+            if (control == QLatin1String(location.field)) fixed << controls_.byName.value(QLatin1String(location.button));
+        for (QWidget* built : fixed)
+            if (built) ShowAsFixed(built, why);
         if (locked.key->kind == KeyKind::Choice)
             for (auto button = options_.cbegin(); button != options_.cend(); ++button)
                 if (OptionGroupOf(button.key()) == control) ShowAsFixed(button.value(), why);
     }
 }
 
-void CGeneralForm::SSTab1_Click() { setCaptions(TabCaptionTable(controls_.tabs->currentIndex())); }
+void CGeneralForm::SSTab1_Click() {
+    if (!sweeping_) buildTab(controls_.tabs->currentIndex());
+    setCaptions(TabCaptionTable(controls_.tabs->currentIndex()));
+}
 
 void CGeneralForm::Option5_Click(int index) {
     const QString button = QStringLiteral("Option5(%1)").arg(index);
@@ -206,8 +257,11 @@ void CGeneralForm::ProgramLocation_Click(const ProgramLocation& location) {
 // the screen (its first showing names every control), and once a sweep of
 // the tabs is over.
 void CGeneralForm::setCaptions(std::span<const CaptionRow> rows) {
-    for (const CaptionRow& row : rows)
-        SetCaption(controls_.byName.value(QLatin1String(row.control)), legends_.GetLegends(row.legend));
+    for (const CaptionRow& row : rows) {
+        const QString control = QLatin1String(row.control);
+        captions_.insert(control, legends_.GetLegends(row.legend));
+        if (QWidget* built = controls_.byName.value(control)) SetCaption(built, captions_.value(control));
+    }
     if (isVisible() && !sweeping_) NameControls(this);
 }
 
@@ -218,39 +272,69 @@ void CGeneralForm::sweepTabs(std::span<const SweepStep> steps) {
         controls_.tabs->setTabText(controls_.tabs->currentIndex(), legends_.GetLegends(step.legend));
     }
     sweeping_ = false;
+    buildTab(controls_.tabs->currentIndex());
     if (isVisible()) NameControls(this);
 }
 
+// The controls as they stand; one not built yet holds what the form last
+// showed in it.
 GeneralControlState CGeneralForm::controlState() const {
-    GeneralControlState state;
+    GeneralControlState state = shown_;
     for (const GeneralVariableRow& row : kGeneralVariableCatalogue) {
         const QString name = QLatin1String(row.field);
         switch (ReadOf(row.type)) {
-        case ControlRead::Text: state.texts.insert(name, fields_.value(name)->text()); break;
-        case ControlRead::State: state.checkStates.insert(name, checkValue(checkBoxes_.value(name)->checkState())); break;
+        case ControlRead::Text:
+            if (const QLineEdit* field = fields_.value(name)) state.texts.insert(name, field->text());
+            break;
+        case ControlRead::State:
+            if (const QCheckBox* box = checkBoxes_.value(name)) state.checkStates.insert(name, checkValue(box->checkState()));
+            break;
         case ControlRead::Options:
-            for (const GeneralChoice& choice : kGeneralChoices)
-                if (SameName(choice.key, row.key) && options_.value(QLatin1String(choice.button))->isChecked())
-                    state.selectedOptions.insert(QLatin1String(choice.button));
+            for (const GeneralChoice& choice : kGeneralChoices) {
+                const QRadioButton* button = options_.value(QLatin1String(choice.button));
+                if (!SameName(choice.key, row.key) || !button) continue;
+                if (button->isChecked()) state.selectedOptions.insert(QLatin1String(choice.button));
+                else state.selectedOptions.remove(QLatin1String(choice.button));
+            }
             break;
         }
     }
     return state;
 }
 
+// A change of the language's button raises Option5_Click, as a click does.
 void CGeneralForm::showControlState(const GeneralControlState& state) {
+    const std::optional<int> languageBefore = selectedLanguage(controlState());
+    shown_ = state;
+    putState(state, std::nullopt);
+    const std::optional<int> language = selectedLanguage(state);
+    if (language && language != languageBefore) Option5_Click(*language);
+}
+
+// Puts `state` into the controls built (of `tab` alone, when given).
+void CGeneralForm::putState(const GeneralControlState& state, std::optional<int> tab) {
+    const auto wanted = [tab](const QString& control) { return !tab || TabOfControl(control) == *tab; };
+    showingState_ = true;
     for (const GeneralVariableRow& row : kGeneralVariableCatalogue) {
         const QString name = QLatin1String(row.field);
         switch (ReadOf(row.type)) {
         case ControlRead::Text:
-            if (fields_.value(name)->text() != state.texts.value(name)) fields_.value(name)->setText(state.texts.value(name));
+            if (QLineEdit* field = fields_.value(name); field && wanted(name)) {
+                const bool changes = field->text() != state.texts.value(name);
+                if (changes) field->setText(state.texts.value(name));
+                if (changes || tab) field->setCursorPosition(0); // a long text shows its beginning
+            }
             break;
-        case ControlRead::State: checkBoxes_.value(name)->setCheckState(checkStateOf(state.checkStates.value(name))); break;
+        case ControlRead::State:
+            if (QCheckBox* box = checkBoxes_.value(name); box && wanted(name))
+                box->setCheckState(checkStateOf(state.checkStates.value(name)));
+            break;
         case ControlRead::Options:
             for (const GeneralChoice& choice : kGeneralChoices) {
-                QRadioButton* button = options_.value(QLatin1String(choice.button));
-                const bool selected = state.selectedOptions.contains(QLatin1String(choice.button));
-                if (!SameName(choice.key, row.key) || button->isChecked() == selected) continue;
+                const QString buttonName = QLatin1String(choice.button);
+                QRadioButton* button = options_.value(buttonName);
+                const bool selected = state.selectedOptions.contains(buttonName);
+                if (!SameName(choice.key, row.key) || !button || !wanted(buttonName) || button->isChecked() == selected) continue;
                 // A group may end with no button selected, as a stored value
                 // outside its choices loads it.
                 button->setAutoExclusive(selected);
@@ -260,10 +344,12 @@ void CGeneralForm::showControlState(const GeneralControlState& state) {
             break;
         }
     }
+    showingState_ = false;
 }
 
 // Nothing is written: the field is shown with its edits, ready to be put right.
 void CGeneralForm::refuseUnwritableQuote(const UnwritableField& field) {
+    buildTab(TabOfControl(field.control));
     QLineEdit* text = fields_.value(field.control);
     // The field is named as a screen reader names it: by its caption on screen.
     NameControls(this);

@@ -16,7 +16,7 @@
 #include "model/InstallInfo.h"
 #include "model/LegendTable.h"
 
-#include <array>
+#include <optional>
 
 class QCheckBox;
 class QLineEdit;
@@ -35,6 +35,9 @@ public:
 
     void Form_Load() override;
 
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
 private:
     // Event handlers, named after their controls.
     void SSTab1_Click();
@@ -46,10 +49,12 @@ private:
     // Command1_Click to Command6_Click: the file dialog on a location field.
     void ProgramLocation_Click(const ProgramLocation& location);
 
+    void buildTab(int tab);
     void setCaptions(std::span<const CaptionRow> rows);
     void sweepTabs(std::span<const SweepStep> steps);
     GeneralControlState controlState() const;
     void showControlState(const GeneralControlState& state);
+    void putState(const GeneralControlState& state, std::optional<int> tab);
     void refuseUnwritableQuote(const UnwritableField& field);
     void showTabOf(QWidget* control);
     void showLockedKeys();
@@ -62,13 +67,17 @@ private:
     LegendFailureQuestion& legendQuestion_;
     RefusalGuard refusalGuard_;
     GeneralControls controls_;
-    // The controls that the form reads and writes, resolved while it is built.
+    // The controls that the form reads and writes, resolved as they are built.
     QPushButton *cmdOK_, *CmdCancel_, *Command7_, *cmdAbout_;
-    std::array<QRadioButton*, kLanguageOptionCount> Option5_;
     QHash<QString, QLineEdit*> fields_;
     QHash<QString, QRadioButton*> options_;
     QHash<QString, QCheckBox*> checkBoxes_;
-    bool sweeping_ = false; // the tabs pass by: their captions change in turn
+    // What the form last showed and worded, which a control built later takes.
+    GeneralControlState shown_;
+    QHash<QString, QString> captions_;
+    bool sweeping_ = false;      // the tabs pass by: their captions change in turn
+    bool showingState_ = false;  // the form, not a user, selects the buttons
+    bool restBuilding_ = false;  // the tabs not looked at are being built
     GeneralVariables loadedFrom_;
     GeneralControlState loaded_;
 };

@@ -16,13 +16,16 @@
 #include <QTabWidget>
 
 #include <array>
+#include <algorithm>
 #include <span>
+#include <string_view>
 #include <utility>
 
 namespace brimo {
 
 namespace {
 
+using namespace std::literals;
 using K = ControlKind;
 
 constexpr ControlRow frameRow(int tab, const char* name, const char* parent, const char* caption, int l, int t, int w, int h) {
@@ -245,11 +248,11 @@ QWidget* createControl(const ControlRow& row, QWidget* parent, const LegendTable
         const FieldRule* rule = FindFieldRule(GeneralFieldRules(), QString::fromLatin1(row.name));
         Q_ASSERT(rule);
         auto* text = new RuleField(*rule, legends, guard, parent);
-        text->setText(caption);
+        if (!caption.isEmpty()) text->setText(caption);
         if (rule->kind != RuleKind::TextRule) text->setAlignment(Qt::AlignCenter);
         return text;
     }
-    case K::PathText: return new QLineEdit(caption, parent);
+    case K::PathText: return new QLineEdit(parent);
     case K::Option: return new QRadioButton(caption, parent);
     case K::Check: {
         auto* box = new FlagCheckBox(caption, parent);
@@ -266,9 +269,9 @@ QWidget* createControl(const ControlRow& row, QWidget* parent, const LegendTable
     return nullptr;
 }
 
-void buildRow(const ControlRow& row, QWidget* base, GeneralControls& controls, const LegendTable& legends,
-              RefusalGuard& guard) {
-    QWidget* parent = *row.parent ? controls.byName.value(QLatin1String(row.parent)) : base;
+QWidget* buildRow(const ControlRow& row, QWidget* base, QHash<QString, QWidget*>& byName, const LegendTable& legends,
+                  RefusalGuard& guard) {
+    QWidget* parent = *row.parent ? byName.value(QLatin1String(row.parent)) : base;
     QWidget* control = createControl(row, parent, legends, guard);
     control->setObjectName(QLatin1String(row.name));
     PlaceInTwips(control, row.left, row.top, row.width, row.height);
@@ -276,31 +279,61 @@ void buildRow(const ControlRow& row, QWidget* base, GeneralControls& controls, c
         if (choice.designSelected && QLatin1String(choice.button) == control->objectName())
             static_cast<QRadioButton*>(control)->setChecked(true);
     if (row.state == DesignState::Disabled) control->setEnabled(false);
-    controls.byName.insert(control->objectName(), control);
+    for (const auto& [name, qualifier] : kNameQualifiers)
+        if (control->objectName() == QLatin1String(name)) SetNameQualifier(control, QLatin1String(qualifier));
+    // A child made on a page that already shows is not shown with it.
+    if (parent->isVisible()) control->show();
+    byName.insert(control->objectName(), control);
+    return control;
 }
 
 } // namespace
 
-GeneralControls BuildGeneralControls(QWidget* form, const LegendTable& legends, RefusalGuard& guard) {
-    GeneralControls controls;
-    controls.tabs = new QTabWidget(form);
-    controls.tabs->setObjectName(QStringLiteral("SSTab1"));
-    controls.tabs->setUsesScrollButtons(false);
-    PlaceInTwips(controls.tabs, 117, 117, 7137, 3887);
-    controls.byName.insert(QStringLiteral("SSTab1"), controls.tabs);
-
-    for (const char* caption : kTabCaptions) controls.tabs->addTab(new QWidget, QString::fromUtf8(caption));
+GeneralControls::GeneralControls(QWidget* form, const LegendTable& legends, RefusalGuard& guard)
+    : legends_(&legends), guard_(&guard), built_(static_cast<qsizetype>(kTabCaptions.size()), false) {
+    tabs = new QTabWidget(form);
+    tabs->setObjectName(QStringLiteral("SSTab1"));
+    tabs->setUsesScrollButtons(false);
+    PlaceInTwips(tabs, 117, 117, 7137, 3887);
+    byName.insert(QStringLiteral("SSTab1"), tabs);
+    for (const char* caption : kTabCaptions) tabs->addTab(new QWidget, QString::fromUtf8(caption));
     for (const ControlRow& row : kGeneralLayout)
-        buildRow(row, row.tab == kOnForm ? form : controls.tabs->widget(row.tab), controls, legends, guard);
+        if (row.tab == kOnForm) buildRow(row, form, byName, legends, guard);
+    require<QPushButton>(u"cmdOK")->setDefault(true);
+    orderTabs();
+}
 
-    controls.require<QPushButton>(u"cmdOK")->setDefault(true);
-    for (const auto& [name, qualifier] : kNameQualifiers)
-        SetNameQualifier(controls.require<QWidget>(QLatin1String(name)), QLatin1String(qualifier));
+QList<QWidget*> GeneralControls::buildTab(int tab) {
+    if (isBuilt(tab)) return {};
+    built_[tab] = true;
+    QList<QWidget*> made;
+    for (const ControlRow& row : kGeneralLayout)
+        if (row.tab == tab) made.append(buildRow(row, tabs->widget(tab), byName, *legends_, *guard_));
+    orderTabs();
+    return made;
+}
 
-    for (std::size_t i = 1; i < kTabOrder.size(); ++i)
-        QWidget::setTabOrder(controls.byName.value(QLatin1String(kTabOrder[i - 1])),
-                             controls.byName.value(QLatin1String(kTabOrder[i])));
-    return controls;
+void GeneralControls::orderTabs() {
+    // Each control after the one before it that is built: a control not
+    // built is on a tab that does not show, where the focus cannot go. The
+    // round starts at SSTab1, the form's first child, which so stays next to
+    // the form in the chain.
+    const auto first = std::ranges::find_if(kTabOrder, [](const char* name) { return name == "SSTab1"sv; });
+    QWidget* previous = nullptr;
+    for (std::size_t i = 0; i < kTabOrder.size(); ++i) {
+        const char* name = kTabOrder[(static_cast<std::size_t>(first - kTabOrder.begin()) + i) % kTabOrder.size()];
+        if (QWidget* control = byName.value(QLatin1String(name))) {
+            if (previous) QWidget::setTabOrder(previous, control);
+            previous = control;
+        }
+    }
+}
+
+int TabOfControl(QAnyStringView name) {
+    if (name == QLatin1String("SSTab1")) return kOnForm;
+    for (const ControlRow& row : kGeneralLayout)
+        if (name == QLatin1String(row.name)) return row.tab;
+    qFatal("CGeneralForm has no control %s", qPrintable(name.toString()));
 }
 
 void SetCaption(QWidget* control, const QString& caption) {

@@ -5,6 +5,7 @@
 
 #include <QAnyStringView>
 #include <QHash>
+#include <QList>
 #include <QString>
 #include <QWidget>
 
@@ -43,25 +44,48 @@ struct ControlRow {
     DesignState state;
 };
 
-struct GeneralControls {
-    QTabWidget* tabs = nullptr;       // SSTab1
-    QHash<QString, QWidget*> byName;  // every control of the tables, SSTab1 too
+// The tabs of SSTab1 and the controls built so far. The buttons below the
+// tabs are built with the form; the controls of a tab when the form first
+// needs them (its first look, or the rest built once the window is painted),
+// which keeps them out of the start.
+class GeneralControls {
+public:
+    GeneralControls() = default;
+    // SSTab1 with its empty tabs and the buttons below them, on `form`. The
+    // fields with a rule refuse their texts in `legends`, one at a time
+    // under `guard`.
+    GeneralControls(QWidget* form, const LegendTable& legends, RefusalGuard& guard);
+
+    QTabWidget* tabs = nullptr;      // SSTab1
+    QHash<QString, QWidget*> byName; // every control built, SSTab1 too
+
+    bool isBuilt(int tab) const { return built_.value(tab); }
+    // Builds the controls of `tab` at their design state (shown at once on a
+    // page that shows) and sets the tab order over every control built.
+    // Returns the controls it built, none for a tab already built.
+    QList<QWidget*> buildTab(int tab);
 
     // The control of that name as the kind the caller needs. A name that the
-    // tables lack, or a control of another kind, stops the program with the
-    // name: the form resolves every control it uses while it is built, so
-    // that a misspelt name fails the first time the form opens.
+    // tables lack, one not built yet or a control of another kind stops the
+    // program with the name, so that a misspelt name fails the first time
+    // the form opens.
     template <class Control> Control* require(QAnyStringView name) const {
         auto* control = qobject_cast<Control*>(byName.value(name.toString()));
         if (!control) qFatal("CGeneralForm has no %s %s", Control::staticMetaObject.className(), qPrintable(name.toString()));
         return control;
     }
+
+private:
+    void orderTabs();
+
+    const LegendTable* legends_ = nullptr;
+    RefusalGuard* guard_ = nullptr;
+    QList<bool> built_;
 };
 
-// Builds SSTab1 and every control on `form`, at their design state, and sets
-// the tab order. The fields with a rule refuse their texts in `legends`,
-// one at a time under `guard`.
-GeneralControls BuildGeneralControls(QWidget* form, const LegendTable& legends, RefusalGuard& guard);
+// The tab of a control of the tables (kOnForm for the buttons below the
+// tabs); a name that the tables lack stops the program with the name.
+int TabOfControl(QAnyStringView name);
 
 // Sets a control's caption: a frame's title, a label's or a button's text.
 void SetCaption(QWidget* control, const QString& caption);
