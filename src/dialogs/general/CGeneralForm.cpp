@@ -92,7 +92,6 @@ CGeneralForm::CGeneralForm(Navigator& navigator, const InstallInfo& info, Genera
     for (const CaptionRow& row : LoadButtonCaptions()) TabOfControl(QLatin1String(row.control));
     for (int tab = 0; tab < controls_.tabs->count(); ++tab)
         for (const CaptionRow& row : TabCaptionTable(tab)) TabOfControl(QLatin1String(row.control));
-    buildTab(controls_.tabs->currentIndex());
 
     // The focus starts on the control of tab index 0.
     cmdOK_->setFocus();
@@ -153,6 +152,12 @@ void CGeneralForm::Form_Load() {
     loaded_ = controlState();
 }
 
+// A tab is built when it shows: at the first showing, the tab in front.
+void CGeneralForm::showEvent(QShowEvent* event) {
+    buildTab(controls_.tabs->currentIndex());
+    BrimoForm::showEvent(event);
+}
+
 // The tabs not looked at yet are built once the window has been painted:
 // the start does not wait for them, and they are there before a user can
 // reach them.
@@ -187,7 +192,7 @@ void CGeneralForm::showLockedKeys() {
 }
 
 void CGeneralForm::SSTab1_Click() {
-    if (!sweeping_) buildTab(controls_.tabs->currentIndex());
+    if (isVisible() && !sweeping_) buildTab(controls_.tabs->currentIndex());
     setCaptions(TabCaptionTable(controls_.tabs->currentIndex()));
 }
 
@@ -272,8 +277,9 @@ void CGeneralForm::sweepTabs(std::span<const SweepStep> steps) {
         controls_.tabs->setTabText(controls_.tabs->currentIndex(), legends_.GetLegends(step.legend));
     }
     sweeping_ = false;
+    if (!isVisible()) return;
     buildTab(controls_.tabs->currentIndex());
-    if (isVisible()) NameControls(this);
+    NameControls(this);
 }
 
 // The controls as they stand; one not built yet holds what the form last

@@ -36,6 +36,7 @@ public:
     void Form_Load() override;
 
 protected:
+    void showEvent(QShowEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:
