@@ -133,13 +133,6 @@ constexpr const GeneralVariableRow* FindVariableRow(const char* key) {
     return kGeneralVariableCatalogue.end();
 }
 
-// The row whose control is `control`; the catalogue's end for none.
-constexpr const GeneralVariableRow* FindVariableShownBy(const char* control) {
-    for (const GeneralVariableRow& row : kGeneralVariableCatalogue)
-        if (SameName(row.field, control)) return &row;
-    return kGeneralVariableCatalogue.end();
-}
-
 // Each choice belongs to a choice of the catalogue, and its button to that
 // choice's option group: "Option4(5)" to "Option4".
 constexpr bool choicesFitTheCatalogue() {

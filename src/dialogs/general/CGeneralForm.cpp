@@ -84,7 +84,6 @@ CGeneralForm::CGeneralForm(Navigator& navigator, const InstallInfo& info, Genera
     cmdAbout_ = controls_.require<QPushButton>(u"cmdAbout");
     // Every control that the form fills, reads or words is one of the
     // tables; those of a tab are resolved when the tab is built.
-    for (const char* name : kLoadedTextFields) TabOfControl(QLatin1String(name));
     for (const GeneralChoice& choice : kGeneralChoices) TabOfControl(QLatin1String(choice.button));
     for (const GeneralVariableRow& row : kGeneralVariableCatalogue)
         if (ReadOf(row.type) != ControlRead::Options) TabOfControl(QLatin1String(row.field));
@@ -109,8 +108,9 @@ void CGeneralForm::buildTab(int tab) {
     const QList<QWidget*> made = controls_.buildTab(tab);
     if (made.isEmpty()) return;
     const auto onTab = [tab](const char* name) { return TabOfControl(QLatin1String(name)) == tab; };
-    for (const char* name : kLoadedTextFields)
-        if (onTab(name)) fields_.insert(QLatin1String(name), controls_.require<QLineEdit>(QLatin1String(name)));
+    for (const GeneralVariableRow& row : kGeneralVariableCatalogue)
+        if (ReadOf(row.type) == ControlRead::Text && onTab(row.field))
+            fields_.insert(QLatin1String(row.field), controls_.require<QLineEdit>(QLatin1String(row.field)));
     for (const GeneralChoice& choice : kGeneralChoices)
         if (onTab(choice.button)) options_.insert(QLatin1String(choice.button), controls_.require<QRadioButton>(QLatin1String(choice.button)));
     for (const GeneralVariableRow& row : kGeneralVariableCatalogue)
@@ -125,7 +125,6 @@ void CGeneralForm::buildTab(int tab) {
     }
     for (const ProgramLocation& location : kProgramLocations) {
         if (!onTab(location.button)) continue;
-        fields_.insert(QLatin1String(location.field), controls_.require<QLineEdit>(QLatin1String(location.field)));
         connect(controls_.require<QPushButton>(QLatin1String(location.button)), &QPushButton::clicked, this,
                 [this, &location] { ProgramLocation_Click(location); });
     }
