@@ -3,6 +3,9 @@
 # chooser, or the dialog of WORD), against a minimal Qt Widgets program that
 # shows one dialog with a line of words, under Xvfb.
 #   bench/startup/startup.sh BUILD_DIR [RUNS] [WORD]
+#   AGAINST=OTHER_BUILD_DIR bench/startup/startup.sh BUILD_DIR [RUNS] [WORD]
+# With AGAINST, the Brimo2010 of another build (an earlier revision built
+# alike) stands in for the minimal program, on the same WORD.
 # Each run takes a timestamp, starts the program and waits for the X server
 # to report the mapping of its window (xev on the root window: one
 # connection, no polling). Prints the runs, the medians and their ratio.
@@ -13,7 +16,10 @@ word=${3:-}
 goal=0.90
 [ -n "$word" ] && goal=1.10
 brimo=$build/src/app/Brimo2010
-minimal=$build/bench/startup/minimal_dialog
+reference=("$build/bench/startup/minimal_dialog") reference_name=minimal_dialog
+if [ -n "${AGAINST:-}" ]; then
+  reference=("$(cd "$AGAINST" && pwd)/src/app/Brimo2010" $word) reference_name="Brimo2010 of $AGAINST"
+fi
 here=$(cd "$(dirname "$0")" && pwd)
 source "$here/../../tests/e2e/lib.sh"
 e2e_setup "$brimo"
@@ -52,18 +58,22 @@ time_to_window() {
 median() { printf '%s\n' "$@" | sort -n | awk '{ a[NR] = $1 } END { print (NR % 2) ? a[(NR + 1) / 2] : (a[NR / 2] + a[NR / 2 + 1]) / 2 }'; }
 
 # A first start of each fills the file caches; it is not counted.
-time_to_window "$minimal"
+time_to_window "${reference[@]}"
 time_to_window "$brimo" $word
-brimo_times=() minimal_times=()
+brimo_times=() reference_times=()
 for _ in $(seq 1 "$runs"); do
-  time_to_window "$minimal"; minimal_times+=("$elapsed")
+  time_to_window "${reference[@]}"; reference_times+=("$elapsed")
   time_to_window "$brimo" $word; brimo_times+=("$elapsed")
 done
 kill "$XEV_PID" 2>/dev/null || true
-m_minimal=$(median "${minimal_times[@]}")
+m_reference=$(median "${reference_times[@]}")
 m_brimo=$(median "${brimo_times[@]}")
-echo "minimal_dialog runs (ms): ${minimal_times[*]}"
+echo "$reference_name runs (ms): ${reference_times[*]}"
 echo "Brimo2010 $word runs (ms): ${brimo_times[*]}"
-echo "median minimal_dialog: $m_minimal ms"
+echo "median $reference_name: $m_reference ms"
 echo "median Brimo2010:      $m_brimo ms"
-awk -v b="$m_brimo" -v m="$m_minimal" -v g="$goal" 'BEGIN { printf "ratio: %.2f (goal: at most %.2f)\n", b / m, g }'
+if [ -n "${AGAINST:-}" ]; then
+  awk -v b="$m_brimo" -v m="$m_reference" 'BEGIN { printf "ratio: %.2f\n", b / m }'
+else
+  awk -v b="$m_brimo" -v m="$m_reference" -v g="$goal" 'BEGIN { printf "ratio: %.2f (goal: at most %.2f)\n", b / m, g }'
+fi
