@@ -108,14 +108,13 @@ void CGeneralForm::buildTab(int tab) {
     const QList<QWidget*> made = controls_.buildTab(tab);
     if (made.isEmpty()) return;
     const auto onTab = [tab](const char* name) { return TabOfControl(QLatin1String(name)) == tab; };
-    for (const GeneralVariableRow& row : kGeneralVariableCatalogue)
-        if (ReadOf(row.type) == ControlRead::Text && onTab(row.field))
-            fields_.insert(QLatin1String(row.field), controls_.require<QLineEdit>(QLatin1String(row.field)));
+    for (const GeneralVariableRow& row : kGeneralVariableCatalogue) {
+        const QString field = QLatin1String(row.field);
+        if (ReadOf(row.type) == ControlRead::Text && onTab(row.field)) fields_.insert(field, controls_.require<QLineEdit>(field));
+        if (ReadOf(row.type) == ControlRead::State && onTab(row.field)) checkBoxes_.insert(field, controls_.require<QCheckBox>(field));
+    }
     for (const GeneralChoice& choice : kGeneralChoices)
         if (onTab(choice.button)) options_.insert(QLatin1String(choice.button), controls_.require<QRadioButton>(QLatin1String(choice.button)));
-    for (const GeneralVariableRow& row : kGeneralVariableCatalogue)
-        if (row.type == ValueType::Flag && onTab(row.field))
-            checkBoxes_.insert(QLatin1String(row.field), controls_.require<QCheckBox>(QLatin1String(row.field)));
     for (int index = 0; index < static_cast<int>(kLanguageOptionCount); ++index) {
         const QString name = QStringLiteral("Option5(%1)").arg(index);
         if (TabOfControl(name) != tab) continue;
