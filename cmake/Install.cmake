@@ -31,9 +31,16 @@ install(FILES ${BRIMO_SHARE_DIR}/metainfo/org.example.brimo.metainfo.xml
         DESTINATION ${CMAKE_INSTALL_DATADIR}/metainfo)
 install(FILES ${BRIMO_SHARE_DIR}/completions/brimo-settings
         DESTINATION ${CMAKE_INSTALL_DATADIR}/bash-completion/completions)
-install(FILES ${BRIMO_SHARE_DIR}/doc/copyright DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/brimo)
 install(FILES ${PROJECT_SOURCE_DIR}/contrib/ansible/library/brimo_settings.py
         DESTINATION ${CMAKE_INSTALL_DATADIR}/brimo/ansible/library)
+
+# The maintainer's contact, said once: the package's Maintainer field, the
+# changelog's entries and the copyright's Upstream-Contact.
+set(BRIMO_PACKAGE_MAINTAINER "Brimo maintainers <brimo@example.org>"
+    CACHE STRING "Maintainer field of the Debian package")
+set(BRIMO_PACKED_DIR ${PROJECT_BINARY_DIR}/packed)
+configure_file(${BRIMO_SHARE_DIR}/doc/copyright ${BRIMO_PACKED_DIR}/copyright @ONLY)
+install(FILES ${BRIMO_PACKED_DIR}/copyright DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/brimo)
 
 # One version everywhere: the project's. The changelog's last entry must
 # name it, and the manual pages take it at build.
@@ -43,7 +50,6 @@ if(NOT brimo_changelog_head MATCHES "^brimo \\(${PROJECT_VERSION}\\) ")
 endif()
 
 # The manual pages and the changelog go compressed, as Debian wants them.
-set(BRIMO_PACKED_DIR ${PROJECT_BINARY_DIR}/packed)
 set(BRIMO_PACKED)
 # brimo-settings(1) lists the keys that the tool itself lists (brimo-settings keys).
 add_custom_command(
@@ -70,8 +76,6 @@ install(FILES ${BRIMO_PACKED_DIR}/Brimo2010.1.gz ${BRIMO_PACKED_DIR}/brimo-setti
 install(FILES ${BRIMO_PACKED_DIR}/changelog.gz DESTINATION ${CMAKE_INSTALL_DATADIR}/doc/brimo)
 
 # Debian package: `cpack` in the build folder.
-set(BRIMO_PACKAGE_MAINTAINER "Brimo maintainers <brimo@example.org>"
-    CACHE STRING "Maintainer field of the Debian package")
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME brimo)
 set(CPACK_PACKAGE_VERSION ${PROJECT_VERSION})
