@@ -57,10 +57,13 @@ GeneralControlState designState() {
     return state;
 }
 
+// The option button of language n: Option5(n).
+QString languageButton(int index) { return QStringLiteral("Option5(%1)").arg(index); }
+
 // The language option selected in `state`: n of Option5(n).
 std::optional<int> selectedLanguage(const GeneralControlState& state) {
     for (int index = 0; index < static_cast<int>(kLanguageOptionCount); ++index)
-        if (state.selectedOptions.contains(QStringLiteral("Option5(%1)").arg(index))) return index;
+        if (state.selectedOptions.contains(languageButton(index))) return index;
     return std::nullopt;
 }
 
@@ -116,7 +119,7 @@ void CGeneralForm::buildTab(int tab) {
     for (const GeneralChoice& choice : kGeneralChoices)
         if (onTab(choice.button)) options_.insert(QLatin1String(choice.button), controls_.require<QRadioButton>(QLatin1String(choice.button)));
     for (int index = 0; index < static_cast<int>(kLanguageOptionCount); ++index) {
-        const QString name = QStringLiteral("Option5(%1)").arg(index);
+        const QString name = languageButton(index);
         if (TabOfControl(name) != tab) continue;
         connect(controls_.require<QRadioButton>(name), &QRadioButton::toggled, this, [this, index](bool selected) {
             if (selected && !showingState_) Option5_Click(index);
@@ -195,7 +198,7 @@ void CGeneralForm::SSTab1_Click() {
 }
 
 void CGeneralForm::Option5_Click(int index) {
-    const QString button = QStringLiteral("Option5(%1)").arg(index);
+    const QString button = languageButton(index);
     for (const GeneralChoice& choice : kGeneralChoices)
         if (button == QLatin1String(choice.button)) variables_.setText(u"x_lang", QLatin1String(choice.value));
     SetProgramLanguage(variables_.text(u"x_lang"));
