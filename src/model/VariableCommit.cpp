@@ -7,6 +7,7 @@
 #include "platform/WindowsPaths.h"
 
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
 
@@ -42,10 +43,12 @@ QStringList foldersToLock(const QString& nativeIni) {
         return std::any_of(kUserFileNames.begin(), kUserFileNames.end(),
                            [&](const char* userName) { return name.compare(QLatin1String(userName), Qt::CaseInsensitive) == 0; });
     };
-    for (const QFileInfo& link : QDir(folder).entryInfoList(all))
-        if (link.isSymLink() && userFile(link.fileName()))
+    for (QDirIterator entries(folder, all); entries.hasNext();) {
+        const QFileInfo link = entries.nextFileInfo();
+        if (userFile(link.fileName()) && link.isSymLink())
             if (const std::optional<QString> target = FollowLinks(link.filePath()))
                 folders.append(QFileInfo(*target).absolutePath());
+    }
     std::map<std::pair<dev_t, ino_t>, QString> byIdentity;
     QStringList missing;
     for (const QString& each : folders) {

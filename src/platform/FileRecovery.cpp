@@ -4,6 +4,7 @@
 #include "platform/FileAccess.h"
 
 #include <QDir>
+#include <QDirIterator>
 #include <QFile>
 #include <QFileInfo>
 
@@ -47,16 +48,17 @@ bool rollForward(const QString& folder, const QList<JournalEntry>& entries, cons
 // the journal was on the disk: they never reached their files. They lie in
 // the folder, or beside the file that a link of the folder leads to.
 bool removeStagedCopies(const QString& folder) {
-    const QDir dir(folder);
-    const auto all = QDir::Hidden | QDir::System | QDir::CaseSensitive;
+    // One walk of the folder, without a name pattern: a pattern would be
+    // compiled at every start for a folder of a few files.
     QStringList staged;
-    for (const QString& name : dir.entryList({QLatin1Char('*') + QLatin1String(kStagedSuffix)}, QDir::Files | all))
-        staged.append(dir.filePath(name));
-    for (const QFileInfo& link : dir.entryInfoList(QDir::Files | QDir::System | all))
-        if (link.isSymLink())
-            if (const std::optional<QString> target = FollowLinks(link.filePath()))
-                if (QFileInfo(*target + QLatin1String(kStagedSuffix)).isFile())
-                    staged.append(*target + QLatin1String(kStagedSuffix));
+    QDirIterator entries(folder, QDir::Files | QDir::System | QDir::Hidden | QDir::CaseSensitive);
+    while (entries.hasNext()) {
+        const QFileInfo entry = entries.nextFileInfo();
+        if (entry.fileName().endsWith(QLatin1String(kStagedSuffix))) staged.append(entry.filePath());
+        if (entry.isSymLink())
+            if (const std::optional<QString> target = FollowLinks(entry.filePath()))
+                if (QFileInfo(*target + QLatin1String(kStagedSuffix)).isFile()) staged.append(*target + QLatin1String(kStagedSuffix));
+    }
     for (const QString& path : staged) QFile::remove(path);
     return !staged.isEmpty();
 }

@@ -24,7 +24,9 @@ constexpr std::chrono::milliseconds kRetryPause{20};
 Failure holderOf(int fd) {
     char text[128] = {};
     const ssize_t n = ::pread(fd, text, sizeof text - 1, 0);
-    const QString holder = QString::fromLocal8Bit(text, n > 0 ? n : 0).trimmed();
+    // The first line: a holder writes its name before cutting what an
+    // earlier holder left behind it.
+    const QString holder = QString::fromLocal8Bit(text, n > 0 ? n : 0).section(QLatin1Char('\n'), 0, 0).trimmed();
     const qsizetype open = holder.indexOf(QLatin1String(" ("));
     Failure held{FailureKind::LockHeld, 0, holder.left(open).toLongLong(), {}};
     if (open > 0 && holder.endsWith(QLatin1Char(')'))) held.detail = holder.mid(open + 2).chopped(1);
@@ -78,8 +80,11 @@ FolderLock::FolderLock(const QString& lockPath, std::chrono::milliseconds wait) 
                 state_ = State::Held;
                 const QByteArray me = QByteArray::number(::getpid()) + " (" + program_invocation_short_name + ")\n";
                 // A failed write loses only the holder's name; the lock holds.
+                // Cut to the name's length after writing it, never to nothing:
+                // on ext4 a file cut to nothing is written out to the disk at
+                // its close, which would make every release wait for the disk.
                 [[maybe_unused]] const bool named =
-                    ::ftruncate(fd, 0) == 0 && ::pwrite(fd, me.constData(), me.size(), 0) == me.size();
+                    ::pwrite(fd, me.constData(), me.size(), 0) == me.size() && ::ftruncate(fd, me.size()) == 0;
                 return;
             }
             ::close(fd);

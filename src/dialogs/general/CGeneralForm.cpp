@@ -75,7 +75,6 @@ CGeneralForm::CGeneralForm(Navigator& navigator, const InstallInfo& info, Genera
       legendQuestion_(legendQuestion), shown_(designState()) {
     setObjectName(QStringLiteral("CGeneralForm"));
     setWindowTitle(QStringLiteral("Général"));
-    setWindowIcon(GeneralWindowIcon());
     useFixedBorder();
     setFixedSize(TwipsSize(7470, 4455));
     // The classic dialog font, so that six tabs fit in one row.
@@ -159,9 +158,9 @@ void CGeneralForm::showEvent(QShowEvent* event) {
     BrimoForm::showEvent(event);
 }
 
-// The tabs not looked at yet are built once the window has been painted:
-// the start does not wait for them, and they are there before a user can
-// reach them.
+// The tabs not looked at yet, and the window's icon, are made once the
+// window has been painted: the start does not wait for them, and they are
+// there before a user can reach them.
 void CGeneralForm::paintEvent(QPaintEvent* event) {
     BrimoForm::paintEvent(event);
     if (restBuilding_) return;
@@ -169,6 +168,7 @@ void CGeneralForm::paintEvent(QPaintEvent* event) {
     QTimer::singleShot(0, this, [this] {
         for (int tab = 0; tab < controls_.tabs->count(); ++tab) buildTab(tab);
         NameControls(this);
+        setWindowIcon(GeneralWindowIcon());
     });
 }
 
