@@ -15,14 +15,11 @@ constexpr qsizetype kCodeWidth = 4;
 constexpr qsizetype kTextColumn = 5; // 0-based: column 6
 constexpr qsizetype kTextWidth = 255;
 
-LegendEntry emptyEntry() { return {QString(kCodeWidth, QLatin1Char(' ')), QString(kTextWidth, QLatin1Char(' '))}; }
-
+// Kept as the line has them, clipped to their widths: the blanks that pad
+// a record are added when the record is asked for, not for every line read.
 LegendEntry entryOfLine(const char* line, qsizetype length) {
-    LegendEntry entry;
-    entry.code = fromCp1252(line, std::min(length, kCodeWidth)).leftJustified(kCodeWidth, QLatin1Char(' '));
     const qsizetype textLength = std::clamp<qsizetype>(length - kTextColumn, 0, kTextWidth);
-    entry.text = fromCp1252(line + std::min(length, kTextColumn), textLength).leftJustified(kTextWidth, QLatin1Char(' '));
-    return entry;
+    return {fromCp1252(line, std::min(length, kCodeWidth)), fromCp1252(line + std::min(length, kTextColumn), textLength)};
 }
 
 } // namespace
@@ -36,7 +33,7 @@ QString LegendFailureTitle() { return QStringLiteral("MainModule"); }
 
 LegendTable::LegendTable() { reset(); }
 
-void LegendTable::reset() { entries_.assign(1, emptyEntry()); }
+void LegendTable::reset() { entries_.assign(1, LegendEntry{}); }
 
 int LegendTable::LoadLegends(const WinePrefix& prefix, const QString& folder, const QString& language,
                              LegendFailureQuestion& question) {
@@ -65,6 +62,11 @@ int LegendTable::LoadLegends(const WinePrefix& prefix, const QString& folder, co
     if (question.ask(LegendFailureText(), LegendFailureTitle())) question.endProgram();
     reset();
     return -1;
+}
+
+LegendEntry LegendTable::entry(int n) const {
+    const LegendEntry& stored = entries_.at(static_cast<size_t>(n - 1));
+    return {stored.code.leftJustified(kCodeWidth, QLatin1Char(' ')), stored.text.leftJustified(kTextWidth, QLatin1Char(' '))};
 }
 
 QString LegendTable::GetLegends(int n) const {

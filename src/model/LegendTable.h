@@ -42,11 +42,12 @@ public:
     QString GetLegends(int n) const;
 
     int size() const { return static_cast<int>(entries_.size()); }
-    const LegendEntry& entry(int n) const { return entries_.at(static_cast<size_t>(n - 1)); }
+    // Entry n as a record: its code and text padded with blanks.
+    LegendEntry entry(int n) const;
 
 private:
     void reset();
-    std::vector<LegendEntry> entries_; // entry n is at index n - 1
+    std::vector<LegendEntry> entries_; // entry n is at index n - 1, without its padding
 };
 
 // The question of a failed load, in French whatever the language.
