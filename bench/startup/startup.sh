@@ -37,7 +37,7 @@ x_lang=FRA"
 coproc XEV { exec stdbuf -oL xev -root -event substructure; }
 sleep 0.5
 
-# time_to_window PROGRAM [WORD]: sets `elapsed` to the milliseconds from the
+# time_to_window PROGRAM [WORD]: sets `elapsed` to the microseconds from the
 # start to the first window of the program mapped on the screen.
 time_to_window() {
   local start end pid line
@@ -51,7 +51,7 @@ time_to_window() {
     [[ $line == MapNotify* ]] && break
   done
   end=$(date +%s%N)
-  elapsed=$(( (end - start) / 1000000 ))
+  elapsed=$(( (end - start) / 1000 ))
   kill "$pid"; wait "$pid" 2>/dev/null || true
 }
 
@@ -68,10 +68,11 @@ done
 kill "$XEV_PID" 2>/dev/null || true
 m_reference=$(median "${reference_times[@]}")
 m_brimo=$(median "${brimo_times[@]}")
-echo "$reference_name runs (ms): ${reference_times[*]}"
-echo "Brimo2010 $word runs (ms): ${brimo_times[*]}"
-echo "median $reference_name: $m_reference ms"
-echo "median Brimo2010:      $m_brimo ms"
+ms() { awk '{ for (i = 1; i <= NF; ++i) printf "%s%.1f", (i > 1 ? " " : ""), $i / 1000; print "" }' <<<"$*"; }
+echo "$reference_name runs (ms): $(ms "${reference_times[@]}")"
+echo "Brimo2010 $word runs (ms): $(ms "${brimo_times[@]}")"
+echo "median $reference_name: $(ms "$m_reference") ms"
+echo "median Brimo2010:      $(ms "$m_brimo") ms"
 if [ -n "${AGAINST:-}" ]; then
   awk -v b="$m_brimo" -v m="$m_reference" 'BEGIN { printf "ratio: %.2f\n", b / m }'
 else
