@@ -330,10 +330,17 @@ void GeneralControls::orderTabs() {
 }
 
 int TabOfControl(QAnyStringView name) {
-    if (name == QLatin1String("SSTab1")) return kOnForm;
-    for (const ControlRow& row : kGeneralLayout)
-        if (name == QLatin1String(row.name)) return row.tab;
-    qFatal("CGeneralForm has no control %s", qPrintable(name.toString()));
+    // Asked for each control that a tab's building or the form's state
+    // touches: a walk of the layout for each would cost more than the rest.
+    static const QHash<QString, int> tabOf = [] {
+        QHash<QString, int> byName{{QStringLiteral("SSTab1"), kOnForm}};
+        for (const ControlRow& row : kGeneralLayout) byName.insert(QLatin1String(row.name), row.tab);
+        return byName;
+    }();
+    const QString control = name.toString();
+    const auto found = tabOf.constFind(control);
+    if (found == tabOf.cend()) qFatal("CGeneralForm has no control %s", qPrintable(control));
+    return *found;
 }
 
 void SetCaption(QWidget* control, const QString& caption) {
