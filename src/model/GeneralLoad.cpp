@@ -40,21 +40,32 @@ std::optional<int> StoredCheckState(const QString& stored) {
 
 QString OptionGroupOf(const QString& button) { return button.section(QLatin1Char('('), 0, 0); }
 
-GeneralControlState LoadedControlState(const GeneralVariables& variables) {
+GeneralControlState DesignControlState() {
     GeneralControlState state;
-    for (const GeneralVariableRow& row : kGeneralVariableCatalogue)
-        if (ReadOf(row.type) == ControlRead::Text) state.texts.insert(QLatin1String(row.field), variables.text(QLatin1String(row.key)));
+    for (const GeneralVariableRow& row : kGeneralVariableCatalogue) {
+        if (ReadOf(row.type) == ControlRead::Text) state.texts.insert(QLatin1String(row.field), QString());
+        if (ReadOf(row.type) == ControlRead::State) state.checkStates.insert(QLatin1String(row.field), 0);
+    }
     for (const GeneralChoice& choice : kGeneralChoices)
         if (choice.designSelected) state.selectedOptions.insert(QLatin1String(choice.button));
+    return state;
+}
+
+GeneralControlState LoadedControlState(const GeneralVariables& variables) {
+    GeneralControlState state = DesignControlState();
+    for (const GeneralVariableRow& row : kGeneralVariableCatalogue)
+        if (ReadOf(row.type) == ControlRead::Text) state.texts.insert(QLatin1String(row.field), variables.text(QLatin1String(row.key)));
     // A selected button deselects the others of its group, as option buttons do.
     for (const QString& button : StoredSelections(variables)) {
         const QString group = OptionGroupOf(button);
         erase_if(state.selectedOptions, [&](const QString& other) { return OptionGroupOf(other) == group; });
         state.selectedOptions.insert(button);
     }
+    // A flag whose stored value is no check state keeps the design's box.
     for (const GeneralVariableRow& row : kGeneralVariableCatalogue)
-        if (row.type == ValueType::Flag)
-            state.checkStates.insert(QLatin1String(row.field), StoredCheckState(variables.text(QLatin1String(row.key))).value_or(0));
+        if (ReadOf(row.type) == ControlRead::State)
+            if (const std::optional<int> stored = StoredCheckState(variables.text(QLatin1String(row.key))))
+                state.checkStates.insert(QLatin1String(row.field), *stored);
     return state;
 }
 

@@ -27,6 +27,9 @@ QStringList StoredSelections(const GeneralVariables& variables);
 // lies outside 0 to 2; the box then keeps its design state.
 std::optional<int> StoredCheckState(const QString& stored);
 
+// The controls as designed: empty fields and boxes, the design's buttons.
+GeneralControlState DesignControlState();
+
 // The controls as Form_Load leaves them: every field with the text form of
 // its variable, each group with the button of its stored value (or of the
 // design), each check box with its stored state (or empty).

@@ -45,18 +45,6 @@ Qt::CheckState checkStateOf(int value) {
     return value == 0 ? Qt::Unchecked : value == 1 ? Qt::Checked : Qt::PartiallyChecked;
 }
 
-// The controls as designed: empty fields and boxes, the design's buttons.
-GeneralControlState designState() {
-    GeneralControlState state;
-    for (const GeneralVariableRow& row : kGeneralVariableCatalogue) {
-        if (ReadOf(row.type) == ControlRead::Text) state.texts.insert(QLatin1String(row.field), QString());
-        if (ReadOf(row.type) == ControlRead::State) state.checkStates.insert(QLatin1String(row.field), 0);
-    }
-    for (const GeneralChoice& choice : kGeneralChoices)
-        if (choice.designSelected) state.selectedOptions.insert(QLatin1String(choice.button));
-    return state;
-}
-
 // The option button of language n: Option5(n).
 QString languageButton(int index) { return QStringLiteral("Option5(%1)").arg(index); }
 
@@ -72,7 +60,7 @@ std::optional<int> selectedLanguage(const GeneralControlState& state) {
 CGeneralForm::CGeneralForm(Navigator& navigator, const InstallInfo& info, GeneralVariables& variables,
                            const GeneralVariables& stored, LegendTable& legends, LegendFailureQuestion& legendQuestion)
     : navigator_(navigator), info_(info), variables_(variables), stored_(stored), legends_(legends),
-      legendQuestion_(legendQuestion), shown_(designState()) {
+      legendQuestion_(legendQuestion), shown_(DesignControlState()) {
     setObjectName(QStringLiteral("CGeneralForm"));
     setWindowTitle(QStringLiteral("Général"));
     useFixedBorder();
